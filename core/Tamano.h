@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+
+namespace ovanta {
+
+/// Sums and products of sizes in bytes. An overflow would show a wrong size or free-space figure,
+/// so it ends the process with a message instead.
+[[noreturn]] inline void desbordamientoDeTamano()
+{
+    std::fputs("ovanta: size arithmetic overflowed\n", stderr);
+    std::abort();
+}
+
+inline std::uint64_t sumar(std::uint64_t a, std::uint64_t b)
+{
+    std::uint64_t r = 0;
+    if (__builtin_add_overflow(a, b, &r)) desbordamientoDeTamano();
+    return r;
+}
+
+inline std::uint64_t multiplicar(std::uint64_t a, std::uint64_t b)
+{
+    std::uint64_t r = 0;
+    if (__builtin_mul_overflow(a, b, &r)) desbordamientoDeTamano();
+    return r;
+}
+
+} // namespace ovanta

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <functional>
+
+namespace ovanta {
+
+/// Whatever shows status icons on this desktop. Main thread.
+class AnfitrionBandeja
+{
+public:
+    virtual ~AnfitrionBandeja() = default;
+
+    /// Whether a host for status icons is there now.
+    virtual bool presente() const = 0;
+
+    /// Calls `accion` when a host appeared or went away, for the life of the process.
+    virtual void alCambiar(std::function<void()> accion) = 0;
+};
+
+} // namespace ovanta

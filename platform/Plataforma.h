@@ -1,0 +1,43 @@
+#pragma once
+
+#include "core/Preferencias.h"
+#include "platform/AnfitrionBandeja.h"
+#include "platform/Apariencia.h"
+#include "platform/Aplicaciones.h"
+#include "platform/DialogoCritico.h"
+#include "platform/GestorArchivos.h"
+#include "platform/Herramientas.h"
+#include "platform/InstanciaUnica.h"
+#include "platform/Lugares.h"
+#include "platform/Notificaciones.h"
+#include "platform/Papelera.h"
+#include "platform/Reloj.h"
+#include "platform/Suspension.h"
+#include "platform/Volumen.h"
+
+namespace ovanta {
+
+/// Everything the program asks of the machine it runs on. One object for the life of the process,
+/// made by the composition root and handed to every store. The references stay valid as long as it.
+class Plataforma
+{
+public:
+    virtual ~Plataforma() = default;
+
+    virtual const Lugares &lugares() const = 0;
+    virtual Preferencias &preferencias() = 0;
+    virtual Reloj &reloj() = 0;
+    virtual Volumen &volumen() = 0;
+    virtual Papelera &papelera() = 0;
+    virtual Herramientas &herramientas() = 0;
+    virtual Aplicaciones &aplicaciones() = 0;
+    virtual Notificaciones &notificaciones() = 0;
+    virtual Suspension &suspension() = 0;
+    virtual DialogoCritico &dialogoCritico() = 0;
+    virtual GestorArchivos &gestorArchivos() = 0;
+    virtual Apariencia &apariencia() = 0;
+    virtual AnfitrionBandeja &anfitrionBandeja() = 0;
+    virtual InstanciaUnica &instanciaUnica() = 0;
+};
+
+} // namespace ovanta

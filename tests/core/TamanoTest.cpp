@@ -1,0 +1,17 @@
+#include "core/Tamano.h"
+
+#include <gtest/gtest.h>
+
+using namespace ovanta;
+
+TEST(Tamano, sumsAndProductsBelowTheLimitAreExact)
+{
+    EXPECT_EQ(sumar(UINT64_MAX - 1, 1), UINT64_MAX);
+    EXPECT_EQ(multiplicar(std::uint64_t{1} << 32, (std::uint64_t{1} << 32) - 1), 18446744069414584320U);
+}
+
+TEST(TamanoDeathTest, anOverflowEndsTheProcessWithAMessage)
+{
+    EXPECT_DEATH(sumar(UINT64_MAX, 1), "size arithmetic overflowed");
+    EXPECT_DEATH(multiplicar(UINT64_MAX, 2), "size arithmetic overflowed");
+}
