@@ -8,4 +8,5 @@ mkdir -p "$casa/tmp" "$casa/run"
 chmod 700 "$casa/run"
 unset XDG_DATA_HOME XDG_CONFIG_HOME XDG_CACHE_HOME XDG_STATE_HOME DBUS_SESSION_BUS_ADDRESS DISPLAY WAYLAND_DISPLAY
 export HOME=$casa TMPDIR=$casa/tmp XDG_RUNTIME_DIR=$casa/run LC_ALL=C.UTF-8 TZ=UTC
+export QT_QPA_PLATFORM=${QT_QPA_PLATFORM:-offscreen}
 dbus-run-session -- "$@"

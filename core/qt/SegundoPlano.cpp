@@ -1,0 +1,43 @@
+#include "core/qt/SegundoPlano.h"
+
+#include <QThread>
+
+namespace ovanta {
+
+namespace {
+
+/// Tools block their thread while they run, so there are more threads than the work itself needs.
+constexpr int hilosPorReserva = 8;
+
+/// An idle thread keeps a stack and a heap arena: let it go soon, the program rests most of the time.
+constexpr int caducidadMs = 5000;
+
+struct Reserva
+{
+    QThreadPool hilos;
+
+    Reserva(const char *nombre, QThread::Priority prioridad)
+    {
+        hilos.setObjectName(QLatin1String(nombre));
+        hilos.setMaxThreadCount(hilosPorReserva);
+        hilos.setExpiryTimeout(caducidadMs);
+        hilos.setThreadPriority(prioridad);
+    }
+};
+
+} // namespace
+
+QThreadPool &detalle::reserva(Prioridad prioridad)
+{
+    static Reserva utilidad("utilidad", QThread::LowPriority);
+    static Reserva usuario("usuario", QThread::NormalPriority);
+    return prioridad == Prioridad::Utilidad ? utilidad.hilos : usuario.hilos;
+}
+
+void esperarSegundoPlano(int milisegundos)
+{
+    detalle::reserva(Prioridad::Utilidad).waitForDone(milisegundos);
+    detalle::reserva(Prioridad::Usuario).waitForDone(milisegundos);
+}
+
+} // namespace ovanta

@@ -1,0 +1,217 @@
+#pragma once
+
+#include "platform/Plataforma.h"
+#include "tests/PreferenciasEnMemoria.h"
+#include "tests/RelojManual.h"
+
+#include <algorithm>
+#include <filesystem>
+#include <functional>
+#include <map>
+#include <mutex>
+#include <vector>
+
+namespace ovanta::pruebas {
+
+/// Scripted tools: what each call gets is told by `alEjecutar`; every call is remembered.
+struct HerramientasDePrueba final : Herramientas
+{
+    using Guion =
+        std::function<std::string(const std::string &binario, const std::vector<std::string> &args)>;
+    Guion alEjecutar = [](const auto &, const auto &) { return std::string{}; };
+    std::mutex cerrojo;
+    std::vector<std::vector<std::string>> llamadas;
+
+    std::string ejecutar(const std::string &binario, const std::vector<std::string> &args, double,
+                         bool) override
+    {
+        {
+            const std::lock_guard guardia{cerrojo};
+            llamadas.push_back(args);
+            llamadas.back().insert(llamadas.back().begin(), binario);
+        }
+        return alEjecutar(binario, args);
+    }
+    std::optional<std::string> buscarBinario(std::string_view) override { return std::nullopt; }
+};
+
+struct VolumenDePrueba final : Volumen
+{
+    std::optional<Espacio> espacio = Espacio{4096, 100'000'000, 50'000'000};
+    int lecturas = 0;
+
+    std::string nombre() const override { return "/System/Volumes/Data"; }
+    void leer(std::function<void(std::optional<Espacio>)> listo) override
+    {
+        ++lecturas;
+        listo(espacio);
+    }
+};
+
+/// A Trash that renames into a folder of its own and can be told to fail.
+struct PapeleraDePrueba final : Papelera
+{
+    std::filesystem::path carpeta;
+    std::function<std::string(const std::string &ruta)> alReciclar; ///< a text makes the move fail
+    std::vector<std::string> recicladas;
+
+    std::expected<Medida, std::string> medir(const std::string &ruta) override
+    {
+        return Medida{ruta, std::filesystem::path(ruta).parent_path(), {}};
+    }
+    std::expected<void, std::string> reciclar(const Medida &medida) override
+    {
+        if (alReciclar)
+            if (auto motivo = alReciclar(medida.ruta); !motivo.empty()) return std::unexpected(motivo);
+        std::error_code error;
+        std::filesystem::create_directories(carpeta);
+        std::filesystem::rename(medida.ruta, carpeta / std::to_string(recicladas.size()), error);
+        if (error) return std::unexpected("no se pudo mover");
+        recicladas.push_back(medida.ruta);
+        return {};
+    }
+    bool contiene(const std::string &ruta, Fecha) override
+    {
+        return std::find(recicladas.begin(), recicladas.end(), ruta) != recicladas.end();
+    }
+};
+
+struct NotificacionesDePrueba final : Notificaciones
+{
+    bool hay = true;
+    std::vector<Aviso> enviados;
+    std::function<void(std::expected<bool, std::string>)> respuesta;
+    std::vector<std::function<void()>> oyentes;
+
+    bool disponible() const override { return hay; }
+    void pedirPermiso(std::function<void(std::expected<bool, std::string>)> r) override
+    {
+        respuesta = std::move(r);
+    }
+    void alCambiar(std::function<void()> accion) override { oyentes.push_back(std::move(accion)); }
+    void enviar(const Aviso &aviso) override { enviados.push_back(aviso); }
+};
+
+struct SuspensionDePrueba final : Suspension
+{
+    std::vector<std::function<void()>> oyentes;
+
+    void alDespertar(std::function<void()> accion) override { oyentes.push_back(std::move(accion)); }
+    void despertar() const
+    {
+        for (const auto &oyente : oyentes)
+            oyente();
+    }
+};
+
+struct DialogoDePrueba final : DialogoCritico
+{
+    struct Mostrado
+    {
+        std::string titulo, cuerpo, boton;
+        std::function<void()> alCerrar;
+    };
+    std::vector<Mostrado> mostrados;
+
+    void mostrar(const std::string &titulo, const std::string &cuerpo, const std::string &boton,
+                 std::function<void()> alCerrar) override
+    {
+        mostrados.push_back({titulo, cuerpo, boton, std::move(alCerrar)});
+    }
+};
+
+struct GestorArchivosDePrueba final : GestorArchivos
+{
+    std::vector<std::string> mostradas;
+    int papelera = 0;
+
+    void mostrar(const std::string &ruta) override { mostradas.push_back(ruta); }
+    void abrirPapelera() override { ++papelera; }
+};
+
+struct AplicacionesDePrueba final : Aplicaciones
+{
+    std::vector<std::string> abiertas;
+    std::map<std::string, std::string> paquetes; ///< path of a bundle to its identifier
+
+    bool enEjecucion(const std::string &bundleID) const override
+    {
+        return std::find(abiertas.begin(), abiertas.end(), bundleID) != abiertas.end();
+    }
+    std::string identificadorDePaquete(const std::string &ruta) const override
+    {
+        const auto hallado = paquetes.find(ruta);
+        return hallado == paquetes.end() ? std::string{} : hallado->second;
+    }
+};
+
+struct AparienciaDePrueba final : Apariencia
+{
+    Estado estado;
+    std::vector<std::function<void()>> oyentes;
+
+    Estado actual() const override { return estado; }
+    void alCambiar(std::function<void()> accion) override { oyentes.push_back(std::move(accion)); }
+    void fijar(Estado nuevo)
+    {
+        estado = nuevo;
+        for (const auto &oyente : oyentes)
+            oyente();
+    }
+};
+
+struct AnfitrionDePrueba final : AnfitrionBandeja
+{
+    bool hay = true;
+    std::vector<std::function<void()>> oyentes;
+
+    bool presente() const override { return hay; }
+    void alCambiar(std::function<void()> accion) override { oyentes.push_back(std::move(accion)); }
+};
+
+struct InstanciaDePrueba final : InstanciaUnica
+{
+    std::function<void()> alActivar;
+
+    bool adquirir(std::function<void()> accion) override
+    {
+        alActivar = std::move(accion);
+        return true;
+    }
+};
+
+/// A whole platform of fakes whose members a test reads and sets directly.
+struct PlataformaDePrueba final : Plataforma
+{
+    Lugares m_lugares;
+    PreferenciasEnMemoria m_preferencias;
+    RelojManual m_reloj;
+    VolumenDePrueba m_volumen;
+    PapeleraDePrueba m_papelera;
+    HerramientasDePrueba m_herramientas;
+    AplicacionesDePrueba m_aplicaciones;
+    NotificacionesDePrueba m_notificaciones;
+    SuspensionDePrueba m_suspension;
+    DialogoDePrueba m_dialogo;
+    GestorArchivosDePrueba m_gestor;
+    AparienciaDePrueba m_apariencia;
+    AnfitrionDePrueba m_anfitrion;
+    InstanciaDePrueba m_instancia;
+
+    const Lugares &lugares() const override { return m_lugares; }
+    Preferencias &preferencias() override { return m_preferencias; }
+    Reloj &reloj() override { return m_reloj; }
+    Volumen &volumen() override { return m_volumen; }
+    Papelera &papelera() override { return m_papelera; }
+    Herramientas &herramientas() override { return m_herramientas; }
+    Aplicaciones &aplicaciones() override { return m_aplicaciones; }
+    Notificaciones &notificaciones() override { return m_notificaciones; }
+    Suspension &suspension() override { return m_suspension; }
+    DialogoCritico &dialogoCritico() override { return m_dialogo; }
+    GestorArchivos &gestorArchivos() override { return m_gestor; }
+    Apariencia &apariencia() override { return m_apariencia; }
+    AnfitrionBandeja &anfitrionBandeja() override { return m_anfitrion; }
+    InstanciaUnica &instanciaUnica() override { return m_instancia; }
+};
+
+} // namespace ovanta::pruebas
