@@ -1,0 +1,30 @@
+#pragma once
+
+#include "app/Interfaz.h"
+
+#include <QString>
+#include <memory>
+
+namespace ovanta {
+
+/// Loads the library of the windows at the first call and keeps it. Main thread.
+class CargadorInterfaz
+{
+public:
+    explicit CargadorInterfaz(OvantaApp &app);
+
+    /// The windows; nothing where the library is missing or does not fit, and then `error` says why.
+    Interfaz *interfaz();
+
+    /// The windows where they were loaded already.
+    Interfaz *interfazSiHay() const { return m_interfaz.get(); }
+
+    const QString &error() const { return m_error; }
+
+private:
+    OvantaApp &m_app;
+    std::unique_ptr<Interfaz> m_interfaz;
+    QString m_error;
+};
+
+} // namespace ovanta

@@ -1,0 +1,9 @@
+#include "app/OvantaApp.h"
+
+namespace ovanta {
+
+OvantaApp::OvantaApp(Plataforma &plataforma, QObject *parent) : QObject(parent), m_plataforma(plataforma) {}
+
+OvantaApp::~OvantaApp() = default;
+
+} // namespace ovanta

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "app/NavegacionAplicacion.h"
+#include "platform/Plataforma.h"
+
+#include <QObject>
+
+namespace ovanta {
+
+/// The owner of every store. It makes each of them once, in this order, and hands them to whoever
+/// shows them; they live as long as the process. Main thread.
+///
+/// The places of the stores: disco, sims, reglas, limpiador, scanner, mem, apps, storageMap,
+/// similarPhotos, navegacion, dev, oculto, stats, salud, restos, ios, auto.
+class OvantaApp : public QObject
+{
+    Q_OBJECT
+public:
+    explicit OvantaApp(Plataforma &plataforma, QObject *parent = nullptr);
+    ~OvantaApp() override;
+
+    Plataforma &plataforma() { return m_plataforma; }
+
+    NavegacionAplicacion &navegacion() { return m_navegacion; }
+
+private:
+    Plataforma &m_plataforma;
+    NavegacionAplicacion m_navegacion;
+};
+
+} // namespace ovanta
