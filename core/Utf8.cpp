@@ -1,0 +1,69 @@
+#include "core/Utf8.h"
+
+#include <cstdint>
+#include <cstring>
+
+namespace ovanta {
+namespace {
+
+struct Secuencia
+{
+    std::size_t largo;
+    unsigned char segundoMin;
+    unsigned char segundoMax;
+};
+
+/// What may follow a first byte; a length of 0 is a byte that starts nothing.
+Secuencia secuenciaDe(unsigned char primero)
+{
+    if (primero < 0x80) return {1, 0, 0};
+    if (primero < 0xC2) return {0, 0, 0};
+    if (primero < 0xE0) return {2, 0x80, 0xBF};
+    if (primero == 0xE0) return {3, 0xA0, 0xBF};
+    if (primero == 0xED) return {3, 0x80, 0x9F};
+    if (primero < 0xF0) return {3, 0x80, 0xBF};
+    if (primero == 0xF0) return {4, 0x90, 0xBF};
+    if (primero < 0xF4) return {4, 0x80, 0xBF};
+    if (primero == 0xF4) return {4, 0x80, 0x8F};
+    return {0, 0, 0};
+}
+
+/// Length of the character at the start of `bytes` (not empty), or 0 where there is none.
+std::size_t largoCaracter(std::string_view bytes)
+{
+    const auto byte = [bytes](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
+    const Secuencia s = secuenciaDe(byte(0));
+    if (s.largo <= 1) return s.largo;
+    if (bytes.size() < s.largo || byte(1) < s.segundoMin || byte(1) > s.segundoMax) return 0;
+    for (std::size_t i = 2; i < s.largo; ++i) {
+        if ((byte(i) & 0xC0) != 0x80) return 0;
+    }
+    return s.largo;
+}
+
+/// Tools print ASCII nearly always, and sometimes a gigabyte of it: eight bytes at a time.
+std::size_t prefijoAscii(std::string_view bytes)
+{
+    std::size_t i = 0;
+    for (std::uint64_t ocho = 0; i + sizeof ocho <= bytes.size(); i += sizeof ocho) {
+        std::memcpy(&ocho, bytes.data() + i, sizeof ocho);
+        if ((ocho & 0x8080808080808080U) != 0) break;
+    }
+    return i;
+}
+
+} // namespace
+
+bool esUtf8(std::string_view bytes)
+{
+    while (!bytes.empty()) {
+        bytes.remove_prefix(prefijoAscii(bytes));
+        if (bytes.empty()) break;
+        const std::size_t largo = largoCaracter(bytes);
+        if (largo == 0) return false;
+        bytes.remove_prefix(largo);
+    }
+    return true;
+}
+
+} // namespace ovanta

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string_view>
+
+namespace ovanta {
+
+/// Whether the bytes are well-formed UTF-8 (Unicode 15, table 3-7: no overlong forms, no surrogates,
+/// nothing above U+10FFFF). NUL is a character like any other.
+bool esUtf8(std::string_view bytes);
+
+} // namespace ovanta
