@@ -1,9 +1,10 @@
 #pragma once
 
 #include "core/Preferencias.h"
+#include "core/Rutas.h"
 
+#include <array>
 #include <functional>
-#include <set>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -34,20 +35,56 @@ public:
 
     struct Entorno
     {
-        /// The user's home, absolute, no trailing slash.
+        /// The user's home, absolute. It is standardised but its links are not resolved, so a home
+        /// behind a link must come here resolved, else nothing that exists in it is ever accepted.
+        /// A home that is not an absolute path, or is "/", holds nothing but itself.
         std::string hogar;
         /// Further members of `protegidas` that this platform has, relative to home.
         std::vector<std::string> protegidasDePlataforma;
         IdentificadorDePaquete identificadorDePaquete;
     };
 
+    /// Where the preferences keep the user's list: sorted paths without duplicates.
+    static constexpr std::string_view claveProtecciones = "rutasProtegidasOvanta";
+
+    /// The places under home that no removal may name, relative to it; the first is home itself.
+    static constexpr std::array<std::string_view, 19> entradasProtegidas{
+        "",
+        "Documents",
+        "Desktop",
+        "Pictures",
+        "Movies",
+        "Music",
+        "Library",
+        "Applications",
+        "Public",
+        ".ssh",
+        ".gnupg",
+        ".aws",
+        ".config",
+        ".gitconfig",
+        "Library/Keychains",
+        "Library/Mobile Documents",
+        "Library/Application Support",
+        "Library/Containers",
+        "Library/Preferences",
+    };
+
+    /// The names that protect everything below them, wherever they stand in a path.
+    static constexpr std::array<std::string_view, 4> nombresProtegidos{".git", ".ssh", ".gnupg", "Keychains"};
+
+    /// The places under home that a folder of the user's choice may neither lie in nor contain.
+    static constexpr std::array<std::string_view, 8> carpetasSensibles{
+        "Library", "Applications", "Public", ".ssh", ".gnupg", ".aws", ".config", ".gitconfig"};
+
     /// `preferencias` must outlive this object; the user's list is read from it at every check.
     Seguridad(Entorno entorno, Preferencias &preferencias);
 
     const std::string &hogar() const { return m_entorno.hogar; }
-    const std::set<std::string> &protegidas() const { return m_protegidas; }
+    const ConjuntoRutas &protegidas() const { return m_protegidas; }
 
-    /// For anything under home that is about to be moved.
+    /// For anything under home that is about to be moved. A path where nothing exists (any more)
+    /// is accepted. The only validator that drops blanks at the ends.
     std::string validar(std::string_view ruta) const;
     /// For an item inside a folder that the user chose.
     std::string validarDentroDeSeleccion(std::string_view ruta, std::string_view raizSeleccionada) const;
@@ -62,26 +99,36 @@ public:
 
     /// Whether a path must stay out of any analysis. `proteccionesUsuario` is the user's list, read
     /// once by the caller for its whole walk: this runs once per directory entry.
-    bool esRutaProtegidaParaAnalisis(std::string_view ruta,
-                                     const std::set<std::string, std::less<>> &proteccionesUsuario) const;
+    /// Stricter than `validar` on purpose: what is not reported may still be removed by a rule that
+    /// names it.
+    bool esRutaProtegidaParaAnalisis(std::string_view ruta, const ConjuntoRutas &proteccionesUsuario) const;
     /// Whether a path lies at, under or above any of `rutas`.
-    bool cruzaProteccionPersonalizada(std::string_view ruta,
-                                      const std::set<std::string, std::less<>> &rutas) const;
+    bool cruzaProteccionPersonalizada(std::string_view ruta, const ConjuntoRutas &rutas) const;
 
-    /// Adds a path to the user's list.
+    /// Adds a path that could be removed to the user's list.
     std::string proteger(std::string_view ruta);
     /// Takes exactly this text off the user's list; never fails.
     void quitarProteccion(std::string_view ruta);
     /// The user's list as it is now.
-    std::set<std::string, std::less<>> proteccionesUsuario() const;
-
-    /// "." and ".." resolved as text, repeated and trailing slashes dropped, links untouched.
-    static std::string estandarizar(std::string_view ruta);
+    ConjuntoRutas proteccionesUsuario() const;
 
 private:
+    static bool attributesNoEnlace(const std::string &ruta);
+    static bool esLegibleYNoEnlace(const std::string &ruta);
+    static std::string_view componenteProtegido(std::string_view ruta);
+
+    std::string normalizar(std::string_view ruta) const;
+    std::string enHogar(std::string_view relativa) const { return unir(m_entorno.hogar, relativa); }
+    bool cruzaCarpetaSensible(std::string_view ruta) const;
+    bool cruzaListaDelUsuario(std::string_view ruta) const;
+    bool esRastroDe(std::string_view ruta, std::string_view bundleID) const;
+    bool esPaquete(const std::string &ruta, std::string_view bundleID) const;
+    void guardarProtecciones(const ConjuntoRutas &rutas);
+
     Entorno m_entorno;
     Preferencias &m_preferencias;
-    std::set<std::string> m_protegidas;
+    ConjuntoRutas m_protegidas;
+    ConjuntoRutas m_protegidasSinHogar;
 };
 
 } // namespace ovanta
