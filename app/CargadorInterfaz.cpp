@@ -23,6 +23,9 @@ CargadorInterfaz::CargadorInterfaz(OvantaApp &app) : m_app(app) {}
 Interfaz *CargadorInterfaz::interfaz()
 {
     if (m_interfaz) return m_interfaz.get();
+    // Drawing on the processor costs a mostly still window less memory and power than a graphics
+    // context of its own; who wants another renderer names it.
+    if (qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND")) qputenv("QT_QUICK_BACKEND", "software");
     for (const QString &ruta : candidatas()) {
         QLibrary biblioteca(ruta);
         biblioteca.setLoadHints(QLibrary::PreventUnloadHint);

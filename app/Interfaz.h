@@ -22,6 +22,10 @@ public:
     /// the window closes.
     virtual void abrirVentana() = 0;
 
+    /// Whether closing the main window only minimises it, because nothing else on this desktop could
+    /// bring it back.
+    virtual void minimizarAlCerrar(bool si) = 0;
+
 Q_SIGNALS:
     void ventanaAbierta();
     void ventanaCerrada();

@@ -2,7 +2,10 @@
 
 namespace ovanta {
 
-OvantaApp::OvantaApp(Plataforma &plataforma, QObject *parent) : QObject(parent), m_plataforma(plataforma) {}
+OvantaApp::OvantaApp(Plataforma &plataforma, QObject *parent)
+    : QObject(parent), m_plataforma(plataforma), m_disco(plataforma)
+{
+}
 
 OvantaApp::~OvantaApp() = default;
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/NavegacionAplicacion.h"
+#include "monitors/DiskMonitor.h"
 #include "platform/Plataforma.h"
 
 #include <QObject>
@@ -21,10 +22,12 @@ public:
 
     Plataforma &plataforma() { return m_plataforma; }
 
+    DiskMonitor &disco() { return m_disco; }
     NavegacionAplicacion &navegacion() { return m_navegacion; }
 
 private:
     Plataforma &m_plataforma;
+    DiskMonitor m_disco;
     NavegacionAplicacion m_navegacion;
 };
 

@@ -17,6 +17,7 @@ InterfazQml::~InterfazQml() = default;
 bool InterfazQml::enfocarVentanaExistente()
 {
     if (!m_ventana) return false;
+    m_ventana->setWindowStates(m_ventana->windowStates() & ~Qt::WindowMinimized);
     m_ventana->show();
     m_ventana->raise();
     m_ventana->requestActivate();
@@ -31,10 +32,25 @@ void InterfazQml::abrirVentana()
     m_motor->load(QUrl(QStringLiteral("qrc:/qt/qml/Ovanta/VentanaPrincipal.qml")));
     if (m_motor->rootObjects().isEmpty()) return;
     m_ventana = qobject_cast<QQuickWindow *>(m_motor->rootObjects().constFirst());
-    connect(m_ventana, &QQuickWindow::visibleChanged, this, [this](bool visible) {
-        if (!visible) cerrar();
-    });
+    m_ventana->installEventFilter(this);
     Q_EMIT ventanaAbierta();
+}
+
+void InterfazQml::minimizarAlCerrar(bool si)
+{
+    m_minimizar = si;
+}
+
+bool InterfazQml::eventFilter(QObject *objeto, QEvent *evento)
+{
+    if (objeto != m_ventana || evento->type() != QEvent::Close) return false;
+    if (m_minimizar) {
+        evento->ignore();
+        m_ventana->showMinimized();
+        return true;
+    }
+    cerrar();
+    return false;
 }
 
 void InterfazQml::cerrar()

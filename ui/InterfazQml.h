@@ -19,6 +19,10 @@ public:
 
     bool enfocarVentanaExistente() override;
     void abrirVentana() override;
+    void minimizarAlCerrar(bool si) override;
+
+protected:
+    bool eventFilter(QObject *objeto, QEvent *evento) override;
 
 private:
     void cerrar();
@@ -26,6 +30,7 @@ private:
     OvantaApp &m_app;
     std::unique_ptr<QQmlApplicationEngine> m_motor;
     QQuickWindow *m_ventana = nullptr;
+    bool m_minimizar = false;
 };
 
 } // namespace ovanta

@@ -34,10 +34,11 @@ QThreadPool &detalle::reserva(Prioridad prioridad)
     return prioridad == Prioridad::Utilidad ? utilidad.hilos : usuario.hilos;
 }
 
-void esperarSegundoPlano(int milisegundos)
+bool esperarSegundoPlano(int milisegundos)
 {
-    detalle::reserva(Prioridad::Utilidad).waitForDone(milisegundos);
-    detalle::reserva(Prioridad::Usuario).waitForDone(milisegundos);
+    const bool utilidad = detalle::reserva(Prioridad::Utilidad).waitForDone(milisegundos / 2);
+    const bool usuario = detalle::reserva(Prioridad::Usuario).waitForDone(milisegundos / 2);
+    return utilidad && usuario;
 }
 
 } // namespace ovanta

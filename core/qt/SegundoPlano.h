@@ -38,8 +38,8 @@ auto enSegundoPlano(Prioridad prioridad, F trabajo) -> QFuture<std::invoke_resul
     return futuro;
 }
 
-/// Waits for all background tasks to end, at most `milisegundos`. For the end of the program, after
-/// the tools were stopped.
-void esperarSegundoPlano(int milisegundos);
+/// Waits for all background tasks to end, at most about `milisegundos`; tells whether they did. For
+/// the end of the program, after the tools were stopped.
+bool esperarSegundoPlano(int milisegundos);
 
 } // namespace ovanta

@@ -3,6 +3,7 @@
 #include <QCoroFuture>
 #include <QCoroTask>
 #include <QEventLoop>
+#include <QSemaphore>
 #include <QThread>
 #include <QTimer>
 #include <gtest/gtest.h>
@@ -40,6 +41,16 @@ TEST(SegundoPlano, manyTasksAllFinish)
         auto trabajo = [&hechas] { ++hechas; };
         enSegundoPlano(i % 2 ? Prioridad::Usuario : Prioridad::Utilidad, trabajo);
     }
-    esperarSegundoPlano(10'000);
+    EXPECT_TRUE(esperarSegundoPlano(20'000));
     EXPECT_EQ(hechas, 200);
+}
+
+TEST(SegundoPlano, waitingForAStuckTaskGivesUp)
+{
+    QSemaphore suelta;
+    auto trabajo = [&suelta] { suelta.acquire(); };
+    enSegundoPlano(Prioridad::Usuario, trabajo);
+    EXPECT_FALSE(esperarSegundoPlano(20));
+    suelta.release();
+    EXPECT_TRUE(esperarSegundoPlano(20'000));
 }

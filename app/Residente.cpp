@@ -1,0 +1,62 @@
+#include "app/Residente.h"
+
+#include "core/qt/Formato.h"
+#include "core/qt/HiloPrincipal.h"
+#include "core/qt/Texto.h"
+
+namespace ovanta {
+
+Residente::Residente(OvantaApp &app, QObject *parent) : QObject(parent), m_app(app), m_cargador(app)
+{
+    connect(&m_bandeja, &Bandeja::pulsada, this, &Residente::abrirVentana);
+    connect(&m_bandeja, &Bandeja::abrirPedido, this, &Residente::abrirVentana);
+    connect(&m_bandeja, &Bandeja::actualizarPedido, &m_app.disco(), &DiskMonitor::medir);
+    connect(&m_bandeja, &Bandeja::salirPedido, this, &Residente::salirPedido);
+    connect(&m_app.disco(), &DiskMonitor::lecturaChanged, this, &Residente::actualizarBandeja);
+    connect(&m_app.disco(), &DiskMonitor::nivelChanged, this, &Residente::actualizarBandeja);
+    m_app.plataforma().apariencia().alCambiar([this] { actualizarBandeja(); });
+    m_app.plataforma().anfitrionBandeja().alCambiar([this] { seguirAnfitrion(); });
+}
+
+bool Residente::empezar()
+{
+    OVANTA_HILO_PRINCIPAL();
+    if (!m_app.plataforma().instanciaUnica().adquirir([this] { abrirVentana(); })) return false;
+    seguirAnfitrion();
+    actualizarBandeja();
+    abrirVentana();
+    return true;
+}
+
+void Residente::abrirVentana()
+{
+    OVANTA_HILO_PRINCIPAL();
+    Interfaz *interfaz = m_cargador.interfaz();
+    if (!interfaz) {
+        m_app.plataforma().dialogoCritico().mostrar("No se pudo abrir la ventana de Ovanta",
+                                                    bytesDe(m_cargador.error()), "Entendido", [] {});
+        return;
+    }
+    interfaz->minimizarAlCerrar(!m_bandeja.visible());
+    if (!interfaz->enfocarVentanaExistente()) interfaz->abrirVentana();
+}
+
+void Residente::seguirAnfitrion()
+{
+    // Without an icon a closed window could not be found again: then closing only minimises it.
+    const bool hay = m_app.plataforma().anfitrionBandeja().presente();
+    if (hay && !m_bandeja.visible()) m_bandeja.aparecer();
+    if (!hay) m_bandeja.desaparecer();
+    if (Interfaz *interfaz = m_cargador.interfazSiHay()) interfaz->minimizarAlCerrar(!hay);
+}
+
+void Residente::actualizarBandeja()
+{
+    const Apariencia::Estado apariencia = m_app.plataforma().apariencia().actual();
+    // GNOME's bar is dark whatever the windows are.
+    const bool barraOscura =
+        apariencia.oscuro || qEnvironmentVariable("XDG_CURRENT_DESKTOP").contains(QLatin1String("GNOME"));
+    m_bandeja.actualizar({m_app.disco().nivel(), formato().bytes(m_app.disco().libre()), barraOscura});
+}
+
+} // namespace ovanta

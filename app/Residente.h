@@ -1,0 +1,42 @@
+#pragma once
+
+#include "app/Bandeja.h"
+#include "app/CargadorInterfaz.h"
+#include "app/OvantaApp.h"
+
+#include <QObject>
+
+namespace ovanta {
+
+/// The life of the program in the session: one instance, the status icon, and the main window that
+/// comes and goes while the program stays. Main thread.
+class Residente : public QObject
+{
+    Q_OBJECT
+public:
+    explicit Residente(OvantaApp &app, QObject *parent = nullptr);
+
+    /// Shows icon and window. False where another instance runs already, which was told to come to
+    /// the front: this process should end.
+    bool empezar();
+
+    /// Opens the main window or brings it to the front.
+    void abrirVentana();
+
+    Bandeja &bandeja() { return m_bandeja; }
+    CargadorInterfaz &cargador() { return m_cargador; }
+
+Q_SIGNALS:
+    /// The user wants the program to end.
+    void salirPedido();
+
+private:
+    void seguirAnfitrion();
+    void actualizarBandeja();
+
+    OvantaApp &m_app;
+    Bandeja m_bandeja;
+    CargadorInterfaz m_cargador;
+};
+
+} // namespace ovanta

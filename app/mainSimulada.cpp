@@ -1,0 +1,8 @@
+#include "app/Arranque.h"
+#include "platform/simulada/PlataformaSimulada.h"
+
+int main(int argc, char **argv)
+{
+    return ovanta::ejecutarPrograma(argc, argv,
+                                    [] { return std::make_unique<ovanta::PlataformaSimulada>(); });
+}
