@@ -21,12 +21,16 @@ struct HerramientasDePrueba final : Herramientas
     Guion alEjecutar = [](const auto &, const auto &) { return std::string{}; };
     std::mutex cerrojo;
     std::vector<std::vector<std::string>> llamadas;
+    double ultimoLimite = 0;
+    bool ultimoTolerarFallo = false;
 
-    std::string ejecutar(const std::string &binario, const std::vector<std::string> &args, double,
-                         bool) override
+    std::string ejecutar(const std::string &binario, const std::vector<std::string> &args, double timeout,
+                         bool tolerarFallo) override
     {
         {
             const std::lock_guard guardia{cerrojo};
+            ultimoLimite = timeout;
+            ultimoTolerarFallo = tolerarFallo;
             llamadas.push_back(args);
             llamadas.back().insert(llamadas.back().begin(), binario);
         }
