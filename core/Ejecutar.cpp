@@ -96,6 +96,7 @@ private:
     void atender(Cronometro::duration comoMucho)
     {
         const auto ms = std::chrono::ceil<std::chrono::milliseconds>(comoMucho).count();
+        // The notice is looked at last, so that a tool's end by `detenerHerramientas` never hides it.
         std::array<pollfd, 4> fuentes{{{m_salida.tuberia.numero(), POLLIN, 0},
                                        {m_error.tuberia.numero(), POLLIN, 0},
                                        {m_fin.numero(), POLLIN, 0},

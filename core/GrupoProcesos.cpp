@@ -5,10 +5,14 @@
 #include <cerrno>
 #include <csignal>
 #include <spawn.h>
-#include <sys/pidfd.h>
 #include <sys/wait.h>
 #include <system_error>
 #include <thread>
+
+// glibc 2.36 forgot to tell C++ that these are C functions.
+extern "C" {
+#include <sys/pidfd.h>
+}
 
 namespace ovanta {
 namespace {
