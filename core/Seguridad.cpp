@@ -43,7 +43,7 @@ bool Seguridad::esLegibleYNoEnlace(const std::string &ruta)
 std::string_view Seguridad::componenteProtegido(std::string_view ruta)
 {
     for (auto c = siguienteComponente(ruta); !c.empty(); c = siguienteComponente(ruta))
-        if (std::ranges::contains(nombresProtegidos, c)) return c;
+        if (std::ranges::find(nombresProtegidos, c) != nombresProtegidos.end()) return c;
     return {};
 }
 
