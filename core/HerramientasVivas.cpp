@@ -51,9 +51,10 @@ void HerramientasVivas::detener()
     m_detenido = true;
     const std::unique_lock puerta(m_puerta);
     const std::lock_guard guarda(m_mutex);
+    // The notice before the kill: a caller that sees its tool end by this sees the reason too.
+    m_aviso.escritura.cerrar();
     for (const pid_t grupo : m_grupos)
         senalarGrupo(grupo, SIGKILL);
-    m_aviso.escritura.cerrar();
 }
 
 void senalarGrupo(pid_t lider, int senal) noexcept
