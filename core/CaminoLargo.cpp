@@ -1,5 +1,6 @@
 #include "core/CaminoLargo.h"
 
+#include "core/Descriptor.h"
 #include "core/Rutas.h"
 
 #include <array>
@@ -28,11 +29,6 @@ constexpr int MAXIMO_ENLACES = 40;
 class Caminante
 {
 public:
-    Caminante() = default;
-    Caminante(const Caminante &) = delete;
-    Caminante &operator=(const Caminante &) = delete;
-    ~Caminante() { cerrar(); }
-
     int andar(std::string_view ruta, EnlaceFinal enlaceFinal)
     {
         if (const int fallo = entrar("/")) return fallo;
@@ -59,7 +55,8 @@ private:
     int pasar(const std::string &componente, bool sigueEnlace)
     {
         struct stat atributos = {};
-        if (::fstatat(m_carpeta, componente.c_str(), &atributos, AT_SYMLINK_NOFOLLOW) != 0) return errno;
+        if (::fstatat(m_carpeta.numero(), componente.c_str(), &atributos, AT_SYMLINK_NOFOLLOW) != 0)
+            return errno;
         if (S_ISLNK(atributos.st_mode) && sigueEnlace) return seguir(componente);
         m_hechos.push_back(componente);
         m_modo = atributos.st_mode;
@@ -71,7 +68,7 @@ private:
     {
         if (++m_enlaces > MAXIMO_ENLACES) return ELOOP;
         std::array<char, PATH_MAX> destino;
-        const auto largo = ::readlinkat(m_carpeta, enlace.c_str(), destino.data(), destino.size());
+        const auto largo = ::readlinkat(m_carpeta.numero(), enlace.c_str(), destino.data(), destino.size());
         if (largo < 0) return errno;
         const std::string_view texto(destino.data(), static_cast<std::size_t>(largo));
         anotar(texto);
@@ -89,10 +86,10 @@ private:
 
     int entrar(const char *nombre)
     {
-        const int nueva = ::openat(m_carpeta, nombre, SOLO_PASAR | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
-        if (nueva < 0) return errno;
-        cerrar();
-        m_carpeta = nueva;
+        Descriptor nueva{
+            ::openat(m_carpeta.numero(), nombre, SOLO_PASAR | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC)};
+        if (!nueva.abierto()) return errno;
+        m_carpeta = std::move(nueva);
         return 0;
     }
 
@@ -105,12 +102,7 @@ private:
             m_pendientes.push_back(std::move(componente));
     }
 
-    void cerrar()
-    {
-        if (m_carpeta >= 0) ::close(m_carpeta);
-    }
-
-    int m_carpeta = AT_FDCWD;
+    Descriptor m_carpeta;
     int m_enlaces = 0;
     mode_t m_modo = S_IFDIR;
     std::vector<std::string> m_pendientes; // the next one last

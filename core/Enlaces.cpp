@@ -7,29 +7,11 @@
 #include <cstdlib>
 #include <memory>
 #include <sys/stat.h>
-#include <system_error>
 #include <utility>
 
 namespace ovanta {
 
 namespace {
-
-class CategoriaErrno : public std::error_category
-{
-public:
-    const char *name() const noexcept override { return "ovanta-errno"; }
-    std::string message(int codigo) const override { return textoErrno(codigo); }
-    std::error_condition default_error_condition(int codigo) const noexcept override
-    {
-        return {codigo, std::generic_category()};
-    }
-};
-
-[[noreturn]] void lanzarErrno(int codigo)
-{
-    static const CategoriaErrno categoria;
-    throw std::system_error(codigo, categoria);
-}
 
 bool puedeNombrarAlgo(const std::string &ruta)
 {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <system_error>
 #include <utility>
 
 namespace ovanta {
@@ -50,6 +51,17 @@ constexpr auto textos = std::to_array<std::pair<int, const char *>>({
     {ECANCELED, "la operación se canceló"},
 });
 
+class CategoriaErrno final : public std::error_category
+{
+public:
+    const char *name() const noexcept override { return "ovanta-errno"; }
+    std::string message(int codigo) const override { return textoErrno(codigo); }
+    std::error_condition default_error_condition(int codigo) const noexcept override
+    {
+        return {codigo, std::generic_category()};
+    }
+};
+
 } // namespace
 
 std::string textoErrno(int codigo)
@@ -57,6 +69,12 @@ std::string textoErrno(int codigo)
     const auto it = std::ranges::find(textos, codigo, &std::pair<int, const char *>::first);
     if (it != textos.end()) return it->second;
     return "error del sistema " + std::to_string(codigo);
+}
+
+void lanzarErrno(int codigo)
+{
+    static const CategoriaErrno categoria;
+    throw std::system_error(codigo, categoria);
 }
 
 } // namespace ovanta

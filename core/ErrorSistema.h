@@ -9,4 +9,7 @@ namespace ovanta {
 /// listed gives "error del sistema" and its number. The only place where errno becomes text.
 std::string textoErrno(int codigo);
 
+/// Throws the `std::system_error` whose what() is `textoErrno`; it compares equal to `std::errc`.
+[[noreturn]] void lanzarErrno(int codigo);
+
 } // namespace ovanta

@@ -4,7 +4,6 @@
 #include <array>
 #include <climits>
 #include <fcntl.h>
-#include <sstream>
 #include <sys/stat.h>
 #include <unistd.h>
 #include <vector>
@@ -16,10 +15,13 @@ namespace {
 // Written the slow and plain way, apart from the code that is tested.
 std::vector<std::string> trozos(const std::string &ruta)
 {
-    std::vector<std::string> partes;
-    std::istringstream flujo(ruta);
-    for (std::string parte; std::getline(flujo, parte, '/');)
-        partes.push_back(parte);
+    std::vector<std::string> partes(1);
+    for (const char c : ruta) {
+        if (c == '/')
+            partes.emplace_back();
+        else
+            partes.back() += c;
+    }
     return partes;
 }
 
