@@ -1,5 +1,6 @@
 #include "core/InterpretarDu.h"
 
+#include "core/Rutas.h"
 #include "core/Tamano.h"
 
 #include <charconv>
@@ -7,21 +8,10 @@
 
 namespace ovanta {
 
-namespace {
-
-std::string_view sinBlancos(std::string_view texto)
-{
-    const auto primero = texto.find_first_not_of(" \t");
-    if (primero == std::string_view::npos) return {};
-    return texto.substr(primero, texto.find_last_not_of(" \t") - primero + 1);
-}
-
-} // namespace
-
 std::optional<std::uint64_t> interpretarDu(std::string_view salida)
 {
     constexpr std::uint64_t kibibyte = 1024;
-    const std::string_view numero = sinBlancos(salida.substr(0, salida.find('\t')));
+    const std::string_view numero = recortarBlancos(salida.substr(0, salida.find('\t')));
     std::uint64_t kibibytes = 0;
     const char *fin = numero.data() + numero.size();
     const auto [hasta, fallo] = std::from_chars(numero.data(), fin, kibibytes);

@@ -1,5 +1,6 @@
 #include "core/LeerArchivo.h"
 
+#include "core/Descriptor.h"
 #include "core/ErrorSistema.h"
 
 #include <algorithm>
@@ -22,21 +23,7 @@ namespace {
     throw ErrorDeLectura(EFBIG, "el archivo pasa del límite de " + std::to_string(limite) + " bytes");
 }
 
-class Descriptor
-{
-public:
-    explicit Descriptor(int fd) : m_fd(fd) {}
-    ~Descriptor() { ::close(m_fd); }
-    Descriptor(const Descriptor &) = delete;
-    Descriptor &operator=(const Descriptor &) = delete;
-
-    int operator*() const { return m_fd; }
-
-private:
-    int m_fd;
-};
-
-int abrir(const std::string &ruta, EnlaceFinal enlace)
+Descriptor abrir(const std::string &ruta, EnlaceFinal enlace)
 {
     // The system would stop at the zero and open another file.
     if (ruta.find('\0') != std::string::npos) fallar(ENOENT);
@@ -48,7 +35,7 @@ int abrir(const std::string &ruta, EnlaceFinal enlace)
         fd = ::open(ruta.c_str(), modo);
     } while (fd < 0 && errno == EINTR);
     if (fd < 0) fallar(errno);
-    return fd;
+    return Descriptor(fd);
 }
 
 /// The size that the file claims; it may still change, and some file systems claim 0.
@@ -81,10 +68,10 @@ bool anadirTrozo(int fd, std::string &texto, std::size_t cuanto)
 std::string leerArchivo(const std::string &ruta, std::uint64_t limite, EnlaceFinal enlace)
 {
     constexpr std::size_t trozo = 64 * 1024;
-    const Descriptor fd(abrir(ruta, enlace));
+    const Descriptor fd = abrir(ruta, enlace);
     std::string texto;
-    texto.reserve(comprobar(*fd, limite) + trozo);
-    while (anadirTrozo(*fd, texto, trozo)) {
+    texto.reserve(comprobar(fd.numero(), limite) + trozo);
+    while (anadirTrozo(fd.numero(), texto, trozo)) {
         if (texto.size() > limite) rechazarPorGrande(limite);
     }
     return texto;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <array>
+#include <string_view>
 #include <utility>
 
 namespace ovanta {
@@ -89,12 +90,6 @@ std::vector<GrupoDeReglas> porCategoria(const std::vector<Regla> &reglas)
         if (!grupo.reglas.empty()) grupos.push_back(std::move(grupo));
     }
     return grupos;
-}
-
-std::string conHogar(std::string_view ruta, std::string_view hogar)
-{
-    if (!ruta.starts_with('~')) return std::string(ruta);
-    return std::string(hogar).append(ruta.substr(1));
 }
 
 } // namespace ovanta

@@ -5,7 +5,6 @@
 #include <functional>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace ovanta {
@@ -46,9 +45,6 @@ std::uint64_t bytesRecuperables(const std::vector<Regla> &reglas);
 /// group by `bytes` descending, an absent size as 0, equal sizes in the order given. Rules of a
 /// category that is not known are in no group.
 std::vector<GrupoDeReglas> porCategoria(const std::vector<Regla> &reglas);
-
-/// `ruta` with a leading "~" replaced by `hogar`; nothing else changes.
-std::string conHogar(std::string_view ruta, std::string_view hogar);
 
 } // namespace ovanta
 

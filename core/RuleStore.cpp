@@ -1,15 +1,16 @@
 #include "core/RuleStore.h"
 
 #include "core/Catalogo.h"
+#include "core/Enlaces.h"
 #include "core/InterpretarDu.h"
 #include "core/LeerArchivo.h"
+#include "core/Rutas.h"
 #include "core/qt/HiloPrincipal.h"
 #include "core/qt/SegundoPlano.h"
 
 #include <QCoroFuture>
 #include <QPointer>
 #include <cerrno>
-#include <filesystem>
 #include <utility>
 
 namespace ovanta {
@@ -21,14 +22,6 @@ constexpr double limiteDeDu = 120.0; // seconds for each path
 constexpr const char *noSeEncontro =
     "No se encontró rules.json dentro de la app. Recompila con build-app.sh.";
 constexpr const char *noSePudoLeer = "rules.json no se pudo leer: ";
-
-/// Follows links, so a dangling one counts as absent.
-bool existeEn(const std::string &ruta)
-{
-    std::error_code fallo;
-    // The system would stop at the zero and look at another path.
-    return ruta.find('\0') == std::string::npos && std::filesystem::exists(ruta, fallo);
-}
 
 } // namespace
 
@@ -91,8 +84,8 @@ std::vector<std::string> RuleStore::anotarExistencia()
 {
     std::vector<std::string> rutas;
     for (Regla &regla : m_reglas) {
-        std::string ruta = conHogar(regla.path, m_plataforma.lugares().hogar);
-        regla.existe = existeEn(ruta);
+        std::string ruta = expandirTilde(regla.path, m_plataforma.lugares().hogar);
+        regla.existe = existe(ruta);
         if (regla.existe) rutas.push_back(std::move(ruta));
     }
     Q_EMIT reglasChanged();
@@ -103,7 +96,7 @@ std::vector<std::string> RuleStore::anotarExistencia()
 void RuleStore::anotarTamanos(const Tamanos &tamanos)
 {
     for (Regla &regla : m_reglas) {
-        const auto hallado = tamanos.find(conHogar(regla.path, m_plataforma.lugares().hogar));
+        const auto hallado = tamanos.find(expandirTilde(regla.path, m_plataforma.lugares().hogar));
         regla.bytes.reset();
         if (hallado != tamanos.end()) regla.bytes = hallado->second;
     }

@@ -126,15 +126,6 @@ TEST(Regla, rulesWithoutASizeSortAfterMeasuredOnesAndKeepFileOrder)
     EXPECT_THAT(ids(grupos.at(0).reglas), ElementsAre("mil", "uno", "otro-uno", "sin1", "cero", "sin2"));
 }
 
-TEST(Regla, onlyALeadingTildeBecomesTheHome)
-{
-    EXPECT_EQ(conHogar("~/a", "/home/ana"), "/home/ana/a");
-    EXPECT_EQ(conHogar("~", "/home/ana"), "/home/ana");
-    EXPECT_EQ(conHogar("~b", "/home/ana"), "/home/anab");
-    EXPECT_EQ(conHogar("/var/~", "/home/ana"), "/var/~");
-    EXPECT_EQ(conHogar("", "/home/ana"), "");
-}
-
 TEST(InterpretarDu, theNumberBeforeTheFirstTabIsKibibytes)
 {
     EXPECT_EQ(interpretarDu("12\t/home/ana/x\n"), 12u * 1024);
