@@ -1,0 +1,22 @@
+#pragma once
+
+#include "core/Fecha.h"
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace ovanta {
+
+// Making the files of a synthetic home. Missing folders on the way appear. All of these throw
+// std::system_error.
+
+void escribirTexto(const std::string &ruta, std::string_view texto);
+
+/// A file of `bytes` that takes up real blocks, so that disk usage counts it, without writing them.
+void reservarArchivo(const std::string &ruta, std::uint64_t bytes);
+
+/// Sets when an item, or a link itself, was last read and changed.
+void fechar(const std::string &ruta, Fecha fecha);
+
+} // namespace ovanta

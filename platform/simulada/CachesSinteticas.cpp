@@ -1,0 +1,54 @@
+#include "platform/simulada/CachesSinteticas.h"
+
+#include "platform/simulada/ArchivosSinteticos.h"
+
+#include <filesystem>
+
+namespace ovanta {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::uint64_t kib = 1024;
+
+/// Sizes that look grown: between 0.3 and 5 MB a place, none like its neighbours.
+std::uint64_t tamanoDe(std::size_t numero)
+{
+    return (300 + numero * 977 % 4700) * kib;
+}
+
+void llenarCarpeta(const std::string &carpeta, std::size_t numero, Fecha ahora)
+{
+    const std::uint64_t total = tamanoDe(numero);
+    reservarArchivo(carpeta + "/data/blob-00.bin", total / 2);
+    reservarArchivo(carpeta + "/data/blob-01.bin", total / 4);
+    reservarArchivo(carpeta + "/fsCachedData/indice.db", total / 4);
+    fechar(carpeta + "/data/blob-00.bin", ahora - std::chrono::days(numero % 50));
+}
+
+bool esArchivo(const fs::path &ruta)
+{
+    return ruta.extension() == ".log" || ruta.extension() == ".db" || ruta.extension() == ".zip";
+}
+
+} // namespace
+
+void llenarCaches(const std::string &hogar, const std::vector<std::string> &rutas, Fecha ahora)
+{
+    for (std::size_t numero = 0; numero < rutas.size(); ++numero) {
+        if (!rutas[numero].starts_with("~/")) continue;
+        const std::string ruta = hogar + rutas[numero].substr(1);
+        const bool ausente = numero % 9 == 4;
+        const bool vacia = numero % 9 == 7;
+        if (ausente || fs::exists(ruta)) continue;
+        if (esArchivo(ruta))
+            reservarArchivo(ruta, tamanoDe(numero));
+        else if (vacia)
+            fs::create_directories(ruta);
+        else
+            llenarCarpeta(ruta, numero, ahora);
+    }
+}
+
+} // namespace ovanta
