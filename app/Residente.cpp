@@ -56,7 +56,8 @@ void Residente::actualizarBandeja()
     // GNOME's bar is dark whatever the windows are.
     const bool barraOscura =
         apariencia.oscuro || qEnvironmentVariable("XDG_CURRENT_DESKTOP").contains(QLatin1String("GNOME"));
-    m_bandeja.actualizar({m_app.disco().nivel(), formato().bytes(m_app.disco().libre()), barraOscura});
+    m_bandeja.actualizar(
+        {m_app.disco().nivel(), Formato::delUsuario().bytes(m_app.disco().libre()), barraOscura});
 }
 
 } // namespace ovanta
