@@ -6,19 +6,17 @@
 
 namespace ovanta {
 
-namespace {
-
-/// Beside the program's folder in a build tree, below it in an installation.
-QStringList candidatas()
+QStringList CargadorInterfaz::candidatas()
 {
     const QDir programa(QCoreApplication::applicationDirPath());
     return {programa.filePath(QStringLiteral("../lib/libovanta_interfaz.so")),
             programa.filePath(QStringLiteral("../lib/ovanta/libovanta_interfaz.so"))};
 }
 
-} // namespace
-
-CargadorInterfaz::CargadorInterfaz(OvantaApp &app) : m_app(app) {}
+CargadorInterfaz::CargadorInterfaz(OvantaApp &app, QStringList candidatas)
+    : m_app(app), m_candidatas(std::move(candidatas))
+{
+}
 
 Interfaz *CargadorInterfaz::interfaz()
 {
@@ -26,7 +24,7 @@ Interfaz *CargadorInterfaz::interfaz()
     // Drawing on the processor costs a mostly still window less memory and power than a graphics
     // context of its own; who wants another renderer names it.
     if (qEnvironmentVariableIsEmpty("QT_QUICK_BACKEND")) qputenv("QT_QUICK_BACKEND", "software");
-    for (const QString &ruta : candidatas()) {
+    for (const QString &ruta : std::as_const(m_candidatas)) {
         QLibrary biblioteca(ruta);
         biblioteca.setLoadHints(QLibrary::PreventUnloadHint);
         const auto crear = reinterpret_cast<CrearInterfaz>(biblioteca.resolve("crearInterfaz"));

@@ -2,7 +2,7 @@
 
 #include "app/Interfaz.h"
 
-#include <QString>
+#include <QStringList>
 #include <memory>
 
 namespace ovanta {
@@ -11,7 +11,11 @@ namespace ovanta {
 class CargadorInterfaz
 {
 public:
-    explicit CargadorInterfaz(OvantaApp &app);
+    /// Where the library lies in a build tree and in an installation, seen from the program.
+    static QStringList candidatas();
+
+    /// The first of `candidatas` that fits is taken.
+    explicit CargadorInterfaz(OvantaApp &app, QStringList candidatas = CargadorInterfaz::candidatas());
 
     /// The windows; nothing where the library is missing or does not fit, and then `error` says why.
     Interfaz *interfaz();
@@ -23,6 +27,7 @@ public:
 
 private:
     OvantaApp &m_app;
+    QStringList m_candidatas;
     std::unique_ptr<Interfaz> m_interfaz;
     QString m_error;
 };

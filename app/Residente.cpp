@@ -6,7 +6,8 @@
 
 namespace ovanta {
 
-Residente::Residente(OvantaApp &app, QObject *parent) : QObject(parent), m_app(app), m_cargador(app)
+Residente::Residente(OvantaApp &app, QStringList bibliotecas)
+    : m_app(app), m_cargador(app, std::move(bibliotecas))
 {
     connect(&m_bandeja, &Bandeja::pulsada, this, &Residente::abrirVentana);
     connect(&m_bandeja, &Bandeja::abrirPedido, this, &Residente::abrirVentana);
@@ -21,10 +22,11 @@ Residente::Residente(OvantaApp &app, QObject *parent) : QObject(parent), m_app(a
 bool Residente::empezar()
 {
     OVANTA_HILO_PRINCIPAL();
-    if (!m_app.plataforma().instanciaUnica().adquirir([this] { abrirVentana(); })) return false;
+    InstanciaUnica &instancia = m_app.plataforma().instanciaUnica();
+    if (!instancia.adquirir([this] { abrirVentana(); })) return false;
     seguirAnfitrion();
     actualizarBandeja();
-    abrirVentana();
+    if (!instancia.iniciadaPorLaSesion() || !m_bandeja.visible()) abrirVentana();
     return true;
 }
 

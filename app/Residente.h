@@ -14,7 +14,7 @@ class Residente : public QObject
 {
     Q_OBJECT
 public:
-    explicit Residente(OvantaApp &app, QObject *parent = nullptr);
+    explicit Residente(OvantaApp &app, QStringList bibliotecas = CargadorInterfaz::candidatas());
 
     /// Shows icon and window. False where another instance runs already, which was told to come to
     /// the front: this process should end.

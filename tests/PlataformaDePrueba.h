@@ -171,17 +171,26 @@ struct AnfitrionDePrueba final : AnfitrionBandeja
 
     bool presente() const override { return hay; }
     void alCambiar(std::function<void()> accion) override { oyentes.push_back(std::move(accion)); }
+    void cambiar(bool nuevo)
+    {
+        hay = nuevo;
+        for (const auto &oyente : oyentes)
+            oyente();
+    }
 };
 
 struct InstanciaDePrueba final : InstanciaUnica
 {
+    bool primera = true;
+    bool silenciosa = false;
     std::function<void()> alActivar;
 
     bool adquirir(std::function<void()> accion) override
     {
         alActivar = std::move(accion);
-        return true;
+        return primera;
     }
+    bool iniciadaPorLaSesion() const override { return silenciosa; }
 };
 
 /// A whole platform of fakes whose members a test reads and sets directly.

@@ -117,6 +117,7 @@ class InstanciaUnicaSimulada final : public InstanciaUnica
 {
 public:
     bool adquirir(std::function<void()> alActivar) override;
+    bool iniciadaPorLaSesion() const override { return false; }
 
     /// Another copy is started.
     void iniciarOtra() const { m_activaciones.avisar(); }
