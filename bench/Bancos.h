@@ -5,5 +5,6 @@ namespace ovanta {
 /// The verbs of `ovanta-banco`. Each measures one thing, prints one JSON object on a line of its own and
 /// returns the program's exit code; `argv[0]` is the verb.
 int bancoEjecutar(int argc, char **argv);
+int bancoValidar(int argc, char **argv);
 
 } // namespace ovanta

@@ -14,6 +14,7 @@ struct Verbo
 
 constexpr Verbo verbos[] = {
     {"ejecutar", ovanta::bancoEjecutar},
+    {"validar", ovanta::bancoValidar},
 };
 
 int explicarUso()
