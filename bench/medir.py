@@ -1,0 +1,141 @@
+#!/usr/bin/env python3
+"""Measures Ovanta against its peers, on a private virtual desktop, and prints a line per figure:
+name, ours, reference, ratio.
+
+Usage: medir.py BIN_FOLDER [--segundos N] [--solo NAME,...]
+"""
+import argparse
+import json
+import os
+import statistics
+import subprocess
+import sys
+import tempfile
+import time
+from pathlib import Path
+
+sys.path.insert(0, str(Path(__file__).resolve().parent.parent / "tests" / "e2e"))
+from escritorio import Escritorio  # noqa: E402
+from Xlib import X, display  # noqa: E402
+
+ARRANQUES = 7
+PUNTOS = [(500, 350), (60, 40), (60, 640), (900, 660), (300, 90)]
+
+
+def linea(nombre, nuestro, referencia, unidad):
+    razon = f"{nuestro / referencia:8.2f}" if referencia else "       -"
+    print(f"{nombre:44} {nuestro:12.3f} {referencia:12.3f} {razon}  {unidad}", flush=True)
+
+
+def hogar_vacio():
+    return tempfile.TemporaryDirectory(prefix="ovanta-medir.")
+
+
+class Programa:
+    """A program on the desktop that ends with the block."""
+
+    def __init__(self, escritorio, orden, **entorno):
+        self.hogar = hogar_vacio()
+        self.inicio = time.monotonic()
+        self.proceso = subprocess.Popen(orden, env=escritorio.entorno(self.hogar.name, **entorno),
+                                        stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self.proceso.terminate()
+        self.proceso.wait(20)
+        self.hogar.cleanup()
+
+
+def pintado(raiz):
+    for x, y in PUNTOS:
+        dato = raiz.get_image(x, y, 1, 1, X.ZPixmap, 0xFFFFFFFF).data
+        if any(dato[:3]):
+            return True
+    return False
+
+
+def hasta_primer_cuadro(escritorio, orden):
+    """Milliseconds from the start of the process to the first pixel of its window."""
+    raiz = display.Display(escritorio.display).screen().root
+    if pintado(raiz):
+        raise RuntimeError("la pantalla no está vacía")
+    with Programa(escritorio, orden) as programa:
+        while not pintado(raiz):
+            if time.monotonic() - programa.inicio > 30:
+                raise RuntimeError(f"{orden[0]} no pintó nada")
+            time.sleep(0.001)
+        tardo = (time.monotonic() - programa.inicio) * 1000
+    while pintado(raiz):
+        time.sleep(0.01)
+    return tardo
+
+
+def medir_arranque(escritorio, binarios):
+    tiempos = {"OvantaBar": [], "referencia_ventana": []}
+    for _ in range(ARRANQUES):
+        for nombre, lista in tiempos.items():
+            lista.append(hasta_primer_cuadro(escritorio, [str(binarios / nombre)]))
+    linea("arranque hasta el primer cuadro", *(statistics.median(lista) for lista in tiempos.values()), "ms")
+
+
+def leer_reposo(pid):
+    """Private bytes, processor seconds and voluntary switches so far."""
+    tareas = list(Path(f"/proc/{pid}/task").iterdir())
+    cambios = ns = 0
+    for tarea in tareas:
+        for renglon in (tarea / "status").read_text().splitlines():
+            if renglon.startswith("voluntary_ctxt_switches"):
+                cambios += int(renglon.split()[1])
+        ns += int((tarea / "schedstat").read_text().split()[0])
+    privado = sum(int(renglon.split()[1]) for renglon in Path(f"/proc/{pid}/smaps_rollup").read_text().splitlines()
+                  if renglon.startswith("Private_Dirty"))
+    return privado / 1024, ns / 1e9, cambios
+
+
+def medir_reposo(escritorio, binarios, segundos):
+    """Both rest side by side; ours as the session starts it: the icon alone."""
+    with Programa(escritorio, [str(binarios / "OvantaBar")], DBUS_STARTER_BUS_TYPE="session") as nuestro, \
+            Programa(escritorio, [str(binarios / "referencia_bandeja")]) as referencia:
+        time.sleep(8)
+        antes = [leer_reposo(p.proceso.pid) for p in (nuestro, referencia)]
+        time.sleep(segundos)
+        despues = [leer_reposo(p.proceso.pid) for p in (nuestro, referencia)]
+    linea("bandeja: memoria privada", despues[0][0], despues[1][0], "MiB")
+    linea("bandeja: procesador", *(100 * (d[1] - a[1]) / segundos for a, d in zip(antes, despues)), "% de un núcleo")
+    linea("bandeja: despertares", *((d[2] - a[2]) / segundos for a, d in zip(antes, despues)), "por segundo")
+
+
+def banco(binarios, *verbo):
+    salida = subprocess.run([str(binarios / "ovanta-banco"), *verbo], check=True, capture_output=True, text=True)
+    return json.loads(salida.stdout)
+
+
+def medir_ejecutar(_, binarios):
+    datos = banco(binarios, "ejecutar")
+    linea("ejecutar frente a posix_spawn", datos["ejecutar_us"], datos["posix_spawn_us"], "µs")
+
+
+def main():
+    argumentos = argparse.ArgumentParser()
+    argumentos.add_argument("binarios", type=Path)
+    argumentos.add_argument("--segundos", type=int, default=60)
+    argumentos.add_argument("--solo", default="")
+    opciones = argumentos.parse_args()
+    binarios = opciones.binarios.resolve()
+    medidas = {
+        "arranque": lambda e: medir_arranque(e, binarios),
+        "reposo": lambda e: medir_reposo(e, binarios, opciones.segundos),
+        "ejecutar": lambda e: medir_ejecutar(e, binarios),
+    }
+    elegidas = [m for m in opciones.solo.split(",") if m] or list(medidas)
+    print(f"{'':44} {'Ovanta':>12} {'referencia':>12} {'razón':>8}")
+    with Escritorio() as escritorio:
+        for nombre in elegidas:
+            medidas[nombre](escritorio)
+
+
+if __name__ == "__main__":
+    main()
