@@ -194,7 +194,7 @@ struct InstanciaDePrueba final : InstanciaUnica
 };
 
 /// A whole platform of fakes whose members a test reads and sets directly.
-struct PlataformaDePrueba final : Plataforma
+struct PlataformaDePrueba : Plataforma
 {
     Lugares m_lugares;
     PreferenciasEnMemoria m_preferencias;
