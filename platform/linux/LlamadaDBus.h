@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <chrono>
+#include <utility>
+
+namespace ovanta {
+
+/// Long enough for the bus to start a service, short enough that nothing waits for ever.
+inline constexpr std::chrono::milliseconds esperaDBus{10'000};
+
+/// Sends a call and hands its answer, the error included, to `alResponder` on the main thread. Never
+/// waits. After the end of `contexto` the answer is dropped.
+template <typename F>
+void llamarDBus(QDBusConnection bus, const QDBusMessage &llamada, QObject *contexto, F alResponder)
+{
+    auto *vigia =
+        new QDBusPendingCallWatcher(bus.asyncCall(llamada, static_cast<int>(esperaDBus.count())), contexto);
+    QObject::connect(vigia, &QDBusPendingCallWatcher::finished, contexto,
+                     [alResponder = std::move(alResponder)](QDBusPendingCallWatcher *hecha) {
+                         hecha->deleteLater();
+                         alResponder(hecha->reply());
+                     });
+}
+
+} // namespace ovanta

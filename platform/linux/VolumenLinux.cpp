@@ -1,0 +1,50 @@
+#include "platform/linux/VolumenLinux.h"
+
+#include "core/qt/SegundoPlano.h"
+#include "platform/linux/Montajes.h"
+
+#include <sys/statvfs.h>
+
+namespace ovanta {
+
+namespace {
+
+std::optional<Volumen::Espacio> leerEspacio(const std::string &ruta)
+{
+    struct statvfs datos{};
+    if (::statvfs(ruta.c_str(), &datos) != 0) return std::nullopt;
+    return Volumen::Espacio{datos.f_frsize, datos.f_blocks, datos.f_bavail};
+}
+
+} // namespace
+
+VolumenLinux::VolumenLinux(std::string hogar, std::string_view mountinfo) : m_hogar(std::move(hogar))
+{
+    const auto montaje = montajeDe(mountinfo, m_hogar);
+    if (!montaje) return;
+    m_nombre = montaje->punto;
+    m_puedeBloquear = puedeBloquear(montaje->tipo);
+}
+
+void VolumenLinux::leer(std::function<void(std::optional<Espacio>)> listo)
+{
+    if (m_puedeBloquear)
+        leerAparte(std::move(listo));
+    else
+        listo(leerEspacio(m_hogar));
+}
+
+void VolumenLinux::leerAparte(std::function<void(std::optional<Espacio>)> listo)
+{
+    // A volume that does not answer must not take one more thread at every tick.
+    if (m_leyendo) return listo(std::nullopt);
+    m_leyendo = true;
+    auto trabajo = [hogar = m_hogar] { return leerEspacio(hogar); };
+    auto futuro = enSegundoPlano(Prioridad::Utilidad, trabajo);
+    futuro.then(&m_contexto, [this, listo = std::move(listo)](std::optional<Espacio> espacio) {
+        m_leyendo = false;
+        listo(espacio);
+    });
+}
+
+} // namespace ovanta
