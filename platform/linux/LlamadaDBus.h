@@ -26,4 +26,12 @@ void llamarDBus(QDBusConnection bus, const QDBusMessage &llamada, QObject *conte
                      });
 }
 
+/// Connects a slot to a signal of the object at `ruta`, whoever sends it: given a sender's name, Qt would
+/// wait for the bus to tell who owns it.
+inline void escucharDBus(QDBusConnection bus, const QString &ruta, const QString &interfaz,
+                         const QString &senal, QObject *receptor, const char *ranura)
+{
+    bus.connect({}, ruta, interfaz, senal, receptor, ranura);
+}
+
 } // namespace ovanta

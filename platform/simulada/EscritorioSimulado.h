@@ -6,8 +6,8 @@
 #include "platform/GestorArchivos.h"
 #include "platform/InstanciaUnica.h"
 #include "platform/Notificaciones.h"
+#include "platform/Oyentes.h"
 #include "platform/Suspension.h"
-#include "platform/simulada/Oyentes.h"
 #include "platform/simulada/RegistroMutaciones.h"
 
 namespace ovanta {

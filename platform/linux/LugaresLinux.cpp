@@ -1,0 +1,83 @@
+#include "platform/linux/LugaresLinux.h"
+
+#include "core/Enlaces.h"
+#include "core/LeerArchivo.h"
+#include "core/Rutas.h"
+#include "platform/linux/CarpetasXdg.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <pwd.h>
+#include <unistd.h>
+
+namespace ovanta {
+
+namespace {
+
+constexpr std::uint64_t limiteUserDirs = 64 * 1024;
+
+std::optional<std::string> variable(const char *nombre)
+{
+    const char *valor = std::getenv(nombre);
+    return valor ? std::optional<std::string>{valor} : std::nullopt;
+}
+
+std::string hogarDeLaBase()
+{
+    std::vector<char> memoria(4096);
+    passwd datos{};
+    passwd *hallado = nullptr;
+    while (::getpwuid_r(::getuid(), &datos, memoria.data(), memoria.size(), &hallado) == ERANGE)
+        memoria.resize(memoria.size() * 2);
+    return hallado ? hallado->pw_dir : "/";
+}
+
+std::string hogarDe(const std::optional<std::string> &home)
+{
+    const std::string texto = home && home->starts_with('/') ? *home : hogarDeLaBase();
+    return resolverEnlaces(texto).value_or(estandarizar(texto));
+}
+
+std::string leerUserDirs(const EntornoLugares &entorno, const std::string &hogar)
+{
+    const bool hayXdg = entorno.xdgConfig && entorno.xdgConfig->starts_with('/');
+    const std::string configuracion = hayXdg ? *entorno.xdgConfig : hogar + "/.config";
+    try {
+        return leerArchivo(configuracion + "/user-dirs.dirs", limiteUserDirs, EnlaceFinal::seguir);
+    } catch (const ErrorDeLectura &) {
+        return {}; // most have none, and the names in English are protected anyhow
+    }
+}
+
+/// Where people's own data lies on Linux besides the places that every platform has.
+std::vector<std::string> protegidasDe(const EntornoLugares &entorno, const std::string &hogar)
+{
+    std::vector<std::string> protegidas = {
+        ".local", ".local/share", ".local/state", ".local/share/keyrings", ".var",  ".var/app",
+        "snap",   ".mozilla",     ".thunderbird", ".password-store",       ".kube", ".docker",
+        ".pki",   ".bashrc",      ".profile",
+    };
+    for (std::string &carpeta : carpetasDelUsuario(leerUserDirs(entorno, hogar), hogar))
+        protegidas.push_back(std::move(carpeta));
+    return protegidas;
+}
+
+} // namespace
+
+EntornoLugares EntornoLugares::delProceso()
+{
+    const std::string programa = resolverEnlaces("/proc/self/exe").value_or("/");
+    return {variable("HOME"), variable("XDG_CONFIG_HOME"), std::string{carpetaContenedora(programa)}};
+}
+
+Lugares lugaresLinux(const EntornoLugares &entorno)
+{
+    Lugares lugares;
+    lugares.hogar = hogarDe(entorno.home);
+    lugares.protegidas = protegidasDe(entorno, lugares.hogar);
+    lugares.recursos = estandarizar(entorno.carpetaPrograma + "/../share/ovanta");
+    lugares.catalogo = lugares.recursos + "/linux/rules.json";
+    return lugares;
+}
+
+} // namespace ovanta
