@@ -12,10 +12,11 @@ namespace {
 
 constexpr std::uint64_t kib = 1024;
 
-/// Sizes that look grown: between 0.3 and 5 MB a place, none like its neighbours.
+/// A few places are big and most are small, none quite like its neighbours.
 std::uint64_t tamanoDe(std::size_t numero)
 {
-    return (300 + numero * 977 % 4700) * kib;
+    const std::uint64_t base = numero % 12 == 0 ? 3000 : 20;
+    return (base + numero * 977 % 400) * kib;
 }
 
 void llenarCarpeta(const std::string &carpeta, std::size_t numero, Fecha ahora)
@@ -25,11 +26,6 @@ void llenarCarpeta(const std::string &carpeta, std::size_t numero, Fecha ahora)
     reservarArchivo(carpeta + "/data/blob-01.bin", total / 4);
     reservarArchivo(carpeta + "/fsCachedData/indice.db", total / 4);
     fechar(carpeta + "/data/blob-00.bin", ahora - std::chrono::days(numero % 50));
-}
-
-bool esArchivo(const fs::path &ruta)
-{
-    return ruta.extension() == ".log" || ruta.extension() == ".db" || ruta.extension() == ".zip";
 }
 
 } // namespace
@@ -42,9 +38,7 @@ void llenarCaches(const std::string &hogar, const std::vector<std::string> &ruta
         const bool ausente = numero % 9 == 4;
         const bool vacia = numero % 9 == 7;
         if (ausente || fs::exists(ruta)) continue;
-        if (esArchivo(ruta))
-            reservarArchivo(ruta, tamanoDe(numero));
-        else if (vacia)
+        if (vacia)
             fs::create_directories(ruta);
         else
             llenarCarpeta(ruta, numero, ahora);

@@ -31,7 +31,7 @@ constexpr std::array documentos{
     Mueble{"Downloads/conjunto-de-datos.zip", 18'000, 140},
     Mueble{"Downloads/conjunto-de-datos (1).zip", 18'000, 139},
     Mueble{"Downloads/Entradas concierto.pdf", 180, 4},
-    Mueble{"Movies/Cumpleaños de Inés.mov", 26'000, 500},
+    Mueble{"Movies/Cumpleaños de Inés.mov", 20'000, 500},
     Mueble{"Movies/Grabación de pantalla.mov", 12'000, 30},
     Mueble{"Music/Maquetas/Toma 3.aiff", 7000, 260},
 };

@@ -72,7 +72,7 @@ TEST_F(SimuladaPlataforma, SusTamanosSonDeVerdadYPocos)
 {
     EXPECT_GE(usoEnDisco(hogar + "/Library/Developer/Xcode/DerivedData"), 20'000'000U);
     EXPECT_GE(usoEnDisco(hogar), 150'000'000U);
-    EXPECT_LT(usoEnDisco(hogar), 400'000'000U);
+    EXPECT_LT(usoEnDisco(hogar), 300'000'000U);
 }
 
 TEST_F(SimuladaPlataforma, SusAplicacionesTienenIdentificador)
