@@ -15,16 +15,16 @@ using testing::IsEmpty;
 
 const Fecha hoy = *leerISO8601("2026-11-21T10:00:00Z");
 
+std::uint64_t usoEnDisco(PlataformaSimulada &mac, const std::string &ruta)
+{
+    return std::stoull(mac.herramientas().ejecutar("/usr/bin/du", {"-sk", ruta}, 60, true)) * 1024;
+}
+
 class SimuladaPlataforma : public testing::Test
 {
 protected:
-    PlataformaSimulada mac{{.recursos = OVANTA_RECURSOS, .relojDetenido = hoy, .apariencia = {}}};
+    PlataformaSimulada mac{{.recursos = "", .relojDetenido = hoy, .apariencia = {}}};
     std::string hogar = mac.lugares().hogar;
-
-    std::uint64_t usoEnDisco(const std::string &ruta)
-    {
-        return std::stoull(mac.herramientas().ejecutar("/usr/bin/du", {"-sk", ruta}, 60, true)) * 1024;
-    }
 };
 
 TEST(SimuladaCasa, SeBorraConSuObjeto)
@@ -68,11 +68,14 @@ TEST(SimuladaCasa, NoTocaLoQueYaHabiaEnUnSitioDelCatalogo)
     EXPECT_FALSE(fs::exists(casa.hogar() + "/Downloads/data"));
 }
 
-TEST_F(SimuladaPlataforma, SusTamanosSonDeVerdadYPocos)
+TEST(SimuladaPlataformaEntera, SusTamanosSonDeVerdadYPocosConTodoElCatalogo)
 {
-    EXPECT_GE(usoEnDisco(hogar + "/Library/Developer/Xcode/DerivedData"), 20'000'000U);
-    EXPECT_GE(usoEnDisco(hogar), 150'000'000U);
-    EXPECT_LT(usoEnDisco(hogar), 300'000'000U);
+    PlataformaSimulada mac{{.recursos = OVANTA_RECURSOS, .relojDetenido = hoy, .apariencia = {}}};
+    const std::string hogar = mac.lugares().hogar;
+    ASSERT_TRUE(fs::exists(mac.lugares().catalogo));
+    EXPECT_GE(usoEnDisco(mac, hogar + "/Library/Developer/Xcode/DerivedData"), 20'000'000U);
+    EXPECT_GE(usoEnDisco(mac, hogar), 200'000'000U);
+    EXPECT_LT(usoEnDisco(mac, hogar), 300'000'000U);
 }
 
 TEST_F(SimuladaPlataforma, SusAplicacionesTienenIdentificador)
