@@ -13,6 +13,7 @@ import sys
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
 
+from accesible import FILA  # noqa: E402
 from escritorio import Escritorio  # noqa: E402
 from pantalla import capturar_quieta  # noqa: E402
 from programa import Casa, Programa  # noqa: E402
@@ -40,7 +41,7 @@ def capturar_todas(escritorio, programa, carpeta):
     with programa:
         ventana = programa.ventana()
         for clave, titulo in SECCIONES.items():
-            ventana.esperar(titulo).pulsar()
+            ventana.esperar(titulo, FILA).pulsar()
             capturar_quieta(escritorio, os.path.join(carpeta, clave + ".png"))
         programa.salir()
     return programa.quejas()

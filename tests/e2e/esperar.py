@@ -11,8 +11,9 @@ class NoOcurrio(AssertionError):
     """What was waited for did not come about in time."""
 
 
-def esperar(condicion, que, limite=LIMITE):
+def esperar(condicion, que, limite=None):
     """Polls until `condicion()` gives something true and returns that; `que` names it in the failure."""
+    limite = limite or LIMITE
     fin = time.monotonic() + limite
     contexto = GLib.MainContext.default()
     while True:

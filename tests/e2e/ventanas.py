@@ -1,0 +1,38 @@
+"""The window as the X server knows it, and what a window manager would tell it."""
+
+from Xlib import X
+from Xlib.display import Display
+from Xlib.protocol import event
+
+from esperar import esperar
+
+
+def abiertas(escritorio, titulo="Ovanta"):
+    """The mapped windows with this title, bottom to top."""
+    pantalla = Display(escritorio.display)
+    try:
+        ventanas = pantalla.screen().root.query_tree().children
+        return [v.id for v in ventanas if v.get_attributes().map_state == X.IsViewable
+                and v.get_geometry().width > 1 and v.get_wm_name() == titulo]
+    finally:
+        pantalla.close()
+
+
+def esperar_abierta(escritorio):
+    return esperar(lambda: abiertas(escritorio), "la ventana en la pantalla")[0]
+
+
+def esperar_ninguna(escritorio):
+    esperar(lambda: not abiertas(escritorio), "que se cierre la ventana")
+
+
+def pedir_cierre(escritorio, numero):
+    """Presses the window's close button."""
+    pantalla = Display(escritorio.display)
+    ventana = pantalla.create_resource_object("window", numero)
+    atomo = pantalla.intern_atom
+    mensaje = event.ClientMessage(window=ventana, client_type=atomo("WM_PROTOCOLS"),
+                                  data=(32, [atomo("WM_DELETE_WINDOW"), X.CurrentTime, 0, 0, 0]))
+    ventana.send_event(mensaje)
+    pantalla.flush()
+    pantalla.close()
