@@ -23,7 +23,7 @@ namespace {
     throw ErrorDeLectura(EFBIG, "el archivo pasa del límite de " + std::to_string(limite) + " bytes");
 }
 
-Descriptor abrir(const std::string &ruta, EnlaceFinal enlace)
+Descriptor abrir(int carpeta, const std::string &ruta, EnlaceFinal enlace)
 {
     // The system would stop at the zero and open another file.
     if (ruta.find('\0') != std::string::npos) fallar(ENOENT);
@@ -32,7 +32,7 @@ Descriptor abrir(const std::string &ruta, EnlaceFinal enlace)
         O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY | (enlace == EnlaceFinal::rechazar ? O_NOFOLLOW : 0);
     int fd = -1;
     do {
-        fd = ::open(ruta.c_str(), modo);
+        fd = ::openat(carpeta, ruta.c_str(), modo);
     } while (fd < 0 && errno == EINTR);
     if (fd < 0) fallar(errno);
     return Descriptor(fd);
@@ -67,8 +67,13 @@ bool anadirTrozo(int fd, std::string &texto, std::size_t cuanto)
 
 std::string leerArchivo(const std::string &ruta, std::uint64_t limite, EnlaceFinal enlace)
 {
+    return leerArchivo(AT_FDCWD, ruta, limite, enlace);
+}
+
+std::string leerArchivo(int carpeta, const std::string &ruta, std::uint64_t limite, EnlaceFinal enlace)
+{
     constexpr std::size_t trozo = 64 * 1024;
-    const Descriptor fd = abrir(ruta, enlace);
+    const Descriptor fd = abrir(carpeta, ruta, enlace);
     std::string texto;
     texto.reserve(comprobar(fd.numero(), limite) + trozo);
     while (anadirTrozo(fd.numero(), texto, trozo)) {

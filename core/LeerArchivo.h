@@ -34,4 +34,7 @@ enum class EnlaceFinal { seguir, rechazar };
 /// Throws `ErrorDeLectura`. Blocking; any thread.
 std::string leerArchivo(const std::string &ruta, std::uint64_t limite, EnlaceFinal enlace);
 
+/// The same for `ruta` seen from the open folder `carpeta`, unless it is absolute.
+std::string leerArchivo(int carpeta, const std::string &ruta, std::uint64_t limite, EnlaceFinal enlace);
+
 } // namespace ovanta
