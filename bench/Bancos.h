@@ -6,5 +6,6 @@ namespace ovanta {
 /// returns the program's exit code; `argv[0]` is the verb.
 int bancoEjecutar(int argc, char **argv);
 int bancoValidar(int argc, char **argv);
+int bancoPapelera(int argc, char **argv);
 
 } // namespace ovanta

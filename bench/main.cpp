@@ -15,6 +15,7 @@ struct Verbo
 constexpr Verbo verbos[] = {
     {"ejecutar", ovanta::bancoEjecutar},
     {"validar", ovanta::bancoValidar},
+    {"papelera", ovanta::bancoPapelera},
 };
 
 int explicarUso()
