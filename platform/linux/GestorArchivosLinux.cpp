@@ -5,7 +5,9 @@
 #include "platform/linux/InfoPapelera.h"
 #include "platform/linux/LlamadaDBus.h"
 
+#include <QCoroFuture>
 #include <QDBusError>
+#include <QPointer>
 #include <QProcess>
 #include <QStringList>
 #include <array>
@@ -66,15 +68,20 @@ GestorArchivosLinux::GestorArchivosLinux(const QDBusConnection &sesion) : m_bus(
 void GestorArchivosLinux::mostrar(const std::string &ruta)
 {
     const std::string limpia = estandarizar(ruta);
-    if (!limpia.starts_with('/')) return;
-    auto trabajo = [limpia] { return masCercana(limpia); };
-    auto futuro = enSegundoPlano(Prioridad::Usuario, trabajo);
-    futuro.then(this, [this, limpia](const std::string &hallada) {
-        if (hallada == limpia)
-            pedir(mostrarObjetos, uriDe(hallada), uriDe(carpetaContenedora(hallada)));
-        else
-            pedir(mostrarCarpetas, uriDe(hallada), uriDe(hallada));
-    });
+    if (limpia.starts_with('/')) buscarYMostrar(limpia);
+}
+
+QCoro::Task<> GestorArchivosLinux::buscarYMostrar(std::string ruta)
+{
+    const QPointer vivo{this};
+    auto trabajo = [ruta] { return masCercana(ruta); };
+    auto futuro = enSegundoPlano(Prioridad::Usuario, std::move(trabajo));
+    const std::string hallada = co_await futuro;
+    if (!vivo) co_return;
+    if (hallada == ruta)
+        pedir(mostrarObjetos, uriDe(hallada), uriDe(carpetaContenedora(hallada)));
+    else
+        pedir(mostrarCarpetas, uriDe(hallada), uriDe(hallada));
 }
 
 void GestorArchivosLinux::abrirPapelera()

@@ -2,6 +2,7 @@
 
 #include "platform/GestorArchivos.h"
 
+#include <QCoroTask>
 #include <QDBusConnection>
 #include <QObject>
 #include <QString>
@@ -21,6 +22,7 @@ public:
     void abrirPapelera() override;
 
 private:
+    QCoro::Task<> buscarYMostrar(std::string ruta);
     void pedir(const QString &metodo, const QString &uri, const QString &uriSiFalla);
 
     QDBusConnection m_bus;

@@ -3,6 +3,8 @@
 #include "core/qt/SegundoPlano.h"
 #include "platform/linux/Montajes.h"
 
+#include <QCoroFuture>
+#include <QPointer>
 #include <sys/statvfs.h>
 
 namespace ovanta {
@@ -34,17 +36,21 @@ void VolumenLinux::leer(std::function<void(std::optional<Espacio>)> listo)
         listo(leerEspacio(m_hogar));
 }
 
-void VolumenLinux::leerAparte(std::function<void(std::optional<Espacio>)> listo)
+QCoro::Task<> VolumenLinux::leerAparte(std::function<void(std::optional<Espacio>)> listo)
 {
     // A volume that does not answer must not take one more thread at every tick.
-    if (m_leyendo) return listo(std::nullopt);
+    if (m_leyendo) {
+        listo(std::nullopt);
+        co_return;
+    }
     m_leyendo = true;
+    const QPointer vivo{&m_vida};
     auto trabajo = [hogar = m_hogar] { return leerEspacio(hogar); };
-    auto futuro = enSegundoPlano(Prioridad::Utilidad, trabajo);
-    futuro.then(&m_contexto, [this, listo = std::move(listo)](std::optional<Espacio> espacio) {
-        m_leyendo = false;
-        listo(espacio);
-    });
+    auto futuro = enSegundoPlano(Prioridad::Utilidad, std::move(trabajo));
+    const auto espacio = co_await futuro;
+    if (!vivo) co_return;
+    m_leyendo = false;
+    listo(espacio);
 }
 
 } // namespace ovanta

@@ -2,6 +2,7 @@
 
 #include "platform/Volumen.h"
 
+#include <QCoroTask>
 #include <QObject>
 
 namespace ovanta {
@@ -17,13 +18,13 @@ public:
     void leer(std::function<void(std::optional<Espacio>)> listo) override;
 
 private:
-    void leerAparte(std::function<void(std::optional<Espacio>)> listo);
+    QCoro::Task<> leerAparte(std::function<void(std::optional<Espacio>)> listo);
 
     std::string m_hogar;
     std::string m_nombre = "/";
     bool m_puedeBloquear = false;
     bool m_leyendo = false;
-    QObject m_contexto; ///< what comes back after the end of this object is dropped with it
+    QObject m_vida; ///< what comes back after its end is dropped
 };
 
 } // namespace ovanta
