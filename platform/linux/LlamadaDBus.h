@@ -1,9 +1,9 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusError>
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <chrono>
 #include <utility>
 
@@ -17,6 +17,14 @@ inline constexpr std::chrono::milliseconds esperaDBus{10'000};
 template <typename F>
 void llamarDBus(QDBusConnection bus, const QDBusMessage &llamada, QObject *contexto, F alResponder)
 {
+    if (!bus.isConnected()) {
+        // Qt would never answer.
+        const auto error = QDBusMessage::createError(QDBusError::Disconnected, QStringLiteral("sin bus"));
+        QMetaObject::invokeMethod(
+            contexto, [alResponder = std::move(alResponder), error] { alResponder(error); },
+            Qt::QueuedConnection);
+        return;
+    }
     auto *vigia =
         new QDBusPendingCallWatcher(bus.asyncCall(llamada, static_cast<int>(esperaDBus.count())), contexto);
     QObject::connect(vigia, &QDBusPendingCallWatcher::finished, contexto,

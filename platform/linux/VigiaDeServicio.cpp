@@ -19,7 +19,7 @@ VigiaDeServicio::VigiaDeServicio(const QDBusConnection &bus, const QString &nomb
 {
     connect(&m_vigia, &QDBusServiceWatcher::serviceOwnerChanged, this,
             [this](const QString &, const QString &, const QString &nuevo) { fijarDueno(nuevo); });
-    if (bus.isConnected()) preguntar(bus);
+    preguntar(bus);
 }
 
 void VigiaDeServicio::preguntar(QDBusConnection bus)
