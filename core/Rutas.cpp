@@ -136,6 +136,14 @@ std::string_view carpetaContenedora(std::string_view ruta)
     return ruta.substr(0, std::max<std::size_t>(barra, 1));
 }
 
+std::string_view ultimoComponente(std::string_view ruta)
+{
+    const auto fin = ruta.find_last_not_of('/');
+    if (fin == std::string_view::npos) return ruta.substr(0, 1);
+    ruta = ruta.substr(0, fin + 1);
+    return ruta.substr(ruta.rfind('/') + 1);
+}
+
 std::string_view extension(std::string_view ruta)
 {
     const auto nombre = ruta.substr(ruta.rfind('/') + 1);

@@ -44,6 +44,9 @@ std::string_view siguienteComponente(std::string_view &resto);
 /// The folder that holds a standardised absolute path; "/" holds itself.
 std::string_view carpetaContenedora(std::string_view ruta);
 
+/// The name at the end of a path, trailing slashes left aside; "/" for the root.
+std::string_view ultimoComponente(std::string_view ruta);
+
 /// What follows the last point of the last component; empty where there is no point or where the
 /// name begins with its only one.
 std::string_view extension(std::string_view ruta);

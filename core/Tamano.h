@@ -21,6 +21,14 @@ inline std::uint64_t sumar(std::uint64_t a, std::uint64_t b)
     return r;
 }
 
+/// The sum of figures that an outside tool told, which may be nonsense: the largest one there is
+/// where it does not fit.
+inline std::uint64_t sumarConTope(std::uint64_t a, std::uint64_t b)
+{
+    std::uint64_t r = 0;
+    return __builtin_add_overflow(a, b, &r) ? UINT64_MAX : r;
+}
+
 inline std::uint64_t multiplicar(std::uint64_t a, std::uint64_t b)
 {
     std::uint64_t r = 0;

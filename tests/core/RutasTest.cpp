@@ -159,3 +159,13 @@ TEST(Rutas, theExtensionIsWhatFollowsTheLastPointOfTheName)
     EXPECT_EQ(extension("/a/b."), "");
     EXPECT_EQ(extension("b.App"), "App");
 }
+
+TEST(Rutas, theLastComponentIsTheNameAtTheEnd)
+{
+    EXPECT_EQ(ultimoComponente("/a/b.txt"), "b.txt");
+    EXPECT_EQ(ultimoComponente("/a/b//"), "b");
+    EXPECT_EQ(ultimoComponente("b"), "b");
+    EXPECT_EQ(ultimoComponente("~/b"), "b");
+    EXPECT_EQ(ultimoComponente("//"), "/");
+    EXPECT_EQ(ultimoComponente(""), "");
+}

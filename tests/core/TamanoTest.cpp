@@ -10,6 +10,13 @@ TEST(Tamano, sumsAndProductsBelowTheLimitAreExact)
     EXPECT_EQ(multiplicar(std::uint64_t{1} << 32, (std::uint64_t{1} << 32) - 1), 18446744069414584320U);
 }
 
+TEST(Tamano, figuresOfAnOutsideToolStopAtTheLargest)
+{
+    EXPECT_EQ(sumarConTope(1, 2), 3u);
+    EXPECT_EQ(sumarConTope(UINT64_MAX - 1, 1), UINT64_MAX);
+    EXPECT_EQ(sumarConTope(UINT64_MAX, UINT64_MAX), UINT64_MAX);
+}
+
 TEST(TamanoDeathTest, anOverflowEndsTheProcessWithAMessage)
 {
     EXPECT_DEATH(sumar(UINT64_MAX, 1), "size arithmetic overflowed");
