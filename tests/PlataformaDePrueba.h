@@ -57,6 +57,7 @@ struct PapeleraDePrueba final : Papelera
 {
     std::filesystem::path carpeta;
     std::function<std::string(const std::string &ruta)> alReciclar; ///< a text makes the move fail
+    std::mutex cerrojo;
     std::vector<std::string> recicladas;
 
     std::expected<Medida, std::string> medir(const std::string &ruta) override
@@ -67,6 +68,7 @@ struct PapeleraDePrueba final : Papelera
     {
         if (alReciclar)
             if (auto motivo = alReciclar(medida.ruta); !motivo.empty()) return std::unexpected(motivo);
+        const std::lock_guard guardia{cerrojo};
         std::error_code error;
         std::filesystem::create_directories(carpeta);
         std::filesystem::rename(medida.ruta, carpeta / std::to_string(recicladas.size()), error);
@@ -201,6 +203,7 @@ struct PlataformaDePrueba : Plataforma
     RelojManual m_reloj;
     VolumenDePrueba m_volumen;
     PapeleraDePrueba m_papelera;
+    Papelera *m_otraPapelera = nullptr; ///< takes the place of `m_papelera` where set
     HerramientasDePrueba m_herramientas;
     AplicacionesDePrueba m_aplicaciones;
     NotificacionesDePrueba m_notificaciones;
@@ -215,7 +218,7 @@ struct PlataformaDePrueba : Plataforma
     Preferencias &preferencias() override { return m_preferencias; }
     Reloj &reloj() override { return m_reloj; }
     Volumen &volumen() override { return m_volumen; }
-    Papelera &papelera() override { return m_papelera; }
+    Papelera &papelera() override { return m_otraPapelera ? *m_otraPapelera : m_papelera; }
     Herramientas &herramientas() override { return m_herramientas; }
     Aplicaciones &aplicaciones() override { return m_aplicaciones; }
     Notificaciones &notificaciones() override { return m_notificaciones; }
