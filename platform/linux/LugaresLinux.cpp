@@ -29,7 +29,8 @@ std::string hogarDeLaBase()
     passwd *hallado = nullptr;
     while (::getpwuid_r(::getuid(), &datos, memoria.data(), memoria.size(), &hallado) == ERANGE)
         memoria.resize(memoria.size() * 2);
-    return hallado ? hallado->pw_dir : "/";
+    const std::string hogar = hallado ? hallado->pw_dir : "";
+    return hogar.starts_with('/') ? hogar : "/";
 }
 
 std::string hogarDe(const std::optional<std::string> &home)
@@ -38,12 +39,16 @@ std::string hogarDe(const std::optional<std::string> &home)
     return resolverEnlaces(texto).value_or(estandarizar(texto));
 }
 
+std::string absolutaO(const std::optional<std::string> &ruta, std::string otra)
+{
+    return ruta && ruta->starts_with('/') ? *ruta : std::move(otra);
+}
+
 std::string leerUserDirs(const EntornoLugares &entorno, const std::string &hogar)
 {
-    const bool hayXdg = entorno.xdgConfig && entorno.xdgConfig->starts_with('/');
-    const std::string configuracion = hayXdg ? *entorno.xdgConfig : hogar + "/.config";
     try {
-        return leerArchivo(configuracion + "/user-dirs.dirs", limiteUserDirs, EnlaceFinal::seguir);
+        return leerArchivo(carpetaDeConfiguracion(entorno, hogar) + "/user-dirs.dirs", limiteUserDirs,
+                           EnlaceFinal::seguir);
     } catch (const ErrorDeLectura &) {
         return {}; // most have none, and the names in English are protected anyhow
     }
@@ -67,7 +72,8 @@ std::vector<std::string> protegidasDe(const EntornoLugares &entorno, const std::
 EntornoLugares EntornoLugares::delProceso()
 {
     const std::string programa = resolverEnlaces("/proc/self/exe").value_or("/");
-    return {variable("HOME"), variable("XDG_CONFIG_HOME"), std::string{carpetaContenedora(programa)}};
+    return {variable("HOME"), variable("XDG_CONFIG_HOME"), std::string{carpetaContenedora(programa)},
+            variable("XDG_RUNTIME_DIR")};
 }
 
 Lugares lugaresLinux(const EntornoLugares &entorno)
@@ -78,6 +84,16 @@ Lugares lugaresLinux(const EntornoLugares &entorno)
     lugares.recursos = estandarizar(entorno.carpetaPrograma + "/../share/ovanta");
     lugares.catalogo = lugares.recursos + "/linux/rules.json";
     return lugares;
+}
+
+std::string carpetaDeConfiguracion(const EntornoLugares &entorno, const std::string &hogar)
+{
+    return absolutaO(entorno.xdgConfig, hogar + "/.config");
+}
+
+std::string carpetaDeSesion(const EntornoLugares &entorno, const std::string &hogar)
+{
+    return absolutaO(entorno.xdgRuntime, hogar + "/.cache");
 }
 
 } // namespace ovanta

@@ -13,6 +13,7 @@ struct EntornoLugares
     std::optional<std::string> home;      ///< $HOME
     std::optional<std::string> xdgConfig; ///< $XDG_CONFIG_HOME
     std::string carpetaPrograma;          ///< folder of the running program; ../share/ovanta is its data
+    std::optional<std::string> xdgRuntime = {}; ///< $XDG_RUNTIME_DIR
 
     static EntornoLugares delProceso();
 };
@@ -20,5 +21,11 @@ struct EntornoLugares
 /// Home is $HOME, or what the password database says where that is unset or not absolute. A home that
 /// does not exist is taken as its text. Blocking.
 Lugares lugaresLinux(const EntornoLugares &entorno);
+
+/// Where programs keep their settings: XDG_CONFIG_HOME where it is absolute, else in `hogar`.
+std::string carpetaDeConfiguracion(const EntornoLugares &entorno, const std::string &hogar);
+
+/// Where programs of this session meet: XDG_RUNTIME_DIR where it is absolute, else in `hogar`.
+std::string carpetaDeSesion(const EntornoLugares &entorno, const std::string &hogar);
 
 } // namespace ovanta

@@ -75,6 +75,17 @@ TEST(LugaresLinux, dataLiesBesideTheProgram)
     EXPECT_EQ(lugares.catalogo, "/opt/ovanta/share/ovanta/linux/rules.json");
 }
 
+TEST(LugaresLinux, foldersOfTheSessionCountOnlyWhereTheyAreAbsolute)
+{
+    const EntornoLugares bueno{"/casa", "/conf", "/bin", "/run/user/7"};
+    EXPECT_EQ(carpetaDeConfiguracion(bueno, "/casa"), "/conf");
+    EXPECT_EQ(carpetaDeSesion(bueno, "/casa"), "/run/user/7");
+    for (const std::optional<std::string> &malo : {std::optional<std::string>{}, {""}, {"relativa"}}) {
+        EXPECT_EQ(carpetaDeConfiguracion({"/casa", malo, "/bin", malo}, "/casa"), "/casa/.config");
+        EXPECT_EQ(carpetaDeSesion({"/casa", malo, "/bin", malo}, "/casa"), "/casa/.cache");
+    }
+}
+
 TEST(LugaresLinux, theProcessFindsItsOwnFolder)
 {
     const std::string programa = std::filesystem::read_symlink("/proc/self/exe");

@@ -1,0 +1,49 @@
+#include "platform/linux/PlataformaLinux.h"
+
+#include "core/LeerArchivo.h"
+#include "platform/linux/InicioDeSesion.h"
+
+#include <cstdlib>
+#include <unistd.h>
+
+namespace ovanta {
+
+namespace {
+
+/// A file of /proc, empty where there is none.
+std::string leerProc(const std::string &ruta)
+{
+    constexpr std::uint64_t limite = 16 * 1024 * 1024;
+    try {
+        return leerArchivo("/proc/" + ruta, limite, EnlaceFinal::seguir);
+    } catch (const ErrorDeLectura &) {
+        return {};
+    }
+}
+
+LugarPapelera lugarDeLaPapelera(const std::string &hogar)
+{
+    const char *datos = std::getenv("XDG_DATA_HOME");
+    return {hogar, datos ? datos : ""};
+}
+
+bool iniciadoPorLaSesion()
+{
+    return laSesionInicio(leerProc("self/cgroup"), leerProc(std::to_string(::getppid()) + "/comm"));
+}
+
+} // namespace
+
+PlataformaLinux::PlataformaLinux()
+    : m_entorno(EntornoLugares::delProceso()), m_sesion(QDBusConnection::sessionBus()),
+      m_lugares(lugaresLinux(m_entorno)),
+      m_preferencias(carpetaDeConfiguracion(m_entorno, m_lugares.hogar) + "/Ovanta/ajustes.ini"),
+      m_volumen(m_lugares.hogar, leerProc("self/mountinfo")),
+      m_papelera({lugarDeLaPapelera(m_lugares.hogar), [this] { return m_reloj.ahora(); }}),
+      m_herramientas(m_lugares.hogar), m_notificaciones(m_sesion), m_suspension(QDBusConnection::systemBus()),
+      m_gestorArchivos(m_sesion), m_apariencia(m_sesion), m_anfitrionBandeja(m_sesion),
+      m_instanciaUnica({m_sesion, carpetaDeSesion(m_entorno, m_lugares.hogar), iniciadoPorLaSesion()})
+{
+}
+
+} // namespace ovanta

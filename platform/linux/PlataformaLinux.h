@@ -1,0 +1,62 @@
+#pragma once
+
+#include "core/qt/PreferenciasQt.h"
+#include "platform/Plataforma.h"
+#include "platform/linux/AnfitrionBandejaLinux.h"
+#include "platform/linux/AparienciaLinux.h"
+#include "platform/linux/AplicacionesLinux.h"
+#include "platform/linux/DialogoCriticoLinux.h"
+#include "platform/linux/GestorArchivosLinux.h"
+#include "platform/linux/HerramientasLinux.h"
+#include "platform/linux/InstanciaUnicaLinux.h"
+#include "platform/linux/LugaresLinux.h"
+#include "platform/linux/NotificacionesLinux.h"
+#include "platform/linux/PapeleraLinux.h"
+#include "platform/linux/RelojLinux.h"
+#include "platform/linux/SuspensionLinux.h"
+#include "platform/linux/VolumenLinux.h"
+
+namespace ovanta {
+
+/// A freedesktop desktop on Linux: this machine, this user, this session's buses. Needs a
+/// QApplication.
+class PlataformaLinux final : public Plataforma
+{
+public:
+    PlataformaLinux();
+
+    const Lugares &lugares() const override { return m_lugares; }
+    Preferencias &preferencias() override { return m_preferencias; }
+    Reloj &reloj() override { return m_reloj; }
+    Volumen &volumen() override { return m_volumen; }
+    Papelera &papelera() override { return m_papelera; }
+    Herramientas &herramientas() override { return m_herramientas; }
+    Aplicaciones &aplicaciones() override { return m_aplicaciones; }
+    Notificaciones &notificaciones() override { return m_notificaciones; }
+    Suspension &suspension() override { return m_suspension; }
+    DialogoCritico &dialogoCritico() override { return m_dialogoCritico; }
+    GestorArchivos &gestorArchivos() override { return m_gestorArchivos; }
+    Apariencia &apariencia() override { return m_apariencia; }
+    AnfitrionBandeja &anfitrionBandeja() override { return m_anfitrionBandeja; }
+    InstanciaUnica &instanciaUnica() override { return m_instanciaUnica; }
+
+private:
+    EntornoLugares m_entorno;
+    QDBusConnection m_sesion;
+    Lugares m_lugares;
+    PreferenciasQt m_preferencias;
+    RelojLinux m_reloj;
+    VolumenLinux m_volumen;
+    PapeleraLinux m_papelera;
+    HerramientasLinux m_herramientas;
+    AplicacionesLinux m_aplicaciones;
+    NotificacionesLinux m_notificaciones;
+    SuspensionLinux m_suspension;
+    DialogoCriticoLinux m_dialogoCritico;
+    GestorArchivosLinux m_gestorArchivos;
+    AparienciaLinux m_apariencia;
+    AnfitrionBandejaLinux m_anfitrionBandeja;
+    InstanciaUnicaLinux m_instanciaUnica;
+};
+
+} // namespace ovanta
