@@ -19,24 +19,24 @@ namespace {
 
 // A folder that may be searched but not read (0711) can still be walked through.
 #ifdef O_SEARCH
-constexpr int SOLO_PASAR = O_SEARCH;
+constexpr int soloPasar = O_SEARCH;
 #else
-constexpr int SOLO_PASAR = O_PATH;
+constexpr int soloPasar = O_PATH;
 #endif
 
-constexpr int MAXIMO_ENLACES = 40;
+constexpr int maximoEnlaces = 40;
 
 class Caminante
 {
 public:
-    int andar(std::string_view ruta, EnlaceFinal enlaceFinal)
+    int andar(std::string_view ruta, UltimoEnlace ultimo)
     {
         if (const int fallo = entrar("/")) return fallo;
         anotar(ruta);
         while (!m_pendientes.empty()) {
             const std::string componente = std::move(m_pendientes.back());
             m_pendientes.pop_back();
-            const bool sigueEnlace = !m_pendientes.empty() || enlaceFinal == EnlaceFinal::Seguir;
+            const bool sigueEnlace = !m_pendientes.empty() || ultimo == UltimoEnlace::seguir;
             const int fallo = componente == ".." ? subir() : pasar(componente, sigueEnlace);
             if (fallo) return fallo;
         }
@@ -66,7 +66,7 @@ private:
 
     int seguir(const std::string &enlace)
     {
-        if (++m_enlaces > MAXIMO_ENLACES) return ELOOP;
+        if (++m_enlaces > maximoEnlaces) return ELOOP;
         std::array<char, PATH_MAX> destino;
         const auto largo = ::readlinkat(m_carpeta.numero(), enlace.c_str(), destino.data(), destino.size());
         if (largo < 0) return errno;
@@ -87,7 +87,7 @@ private:
     int entrar(const char *nombre)
     {
         Descriptor nueva{
-            ::openat(m_carpeta.numero(), nombre, SOLO_PASAR | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC)};
+            ::openat(m_carpeta.numero(), nombre, soloPasar | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC)};
         if (!nueva.abierto()) return errno;
         m_carpeta = std::move(nueva);
         return 0;
@@ -111,10 +111,10 @@ private:
 
 } // namespace
 
-std::expected<FinalDeCamino, int> andarCaminoLargo(const std::string &ruta, EnlaceFinal enlaceFinal)
+std::expected<FinalDeCamino, int> andarCaminoLargo(const std::string &ruta, UltimoEnlace ultimo)
 {
     Caminante caminante;
-    if (const int fallo = caminante.andar(ruta, enlaceFinal)) return std::unexpected(fallo);
+    if (const int fallo = caminante.andar(ruta, ultimo)) return std::unexpected(fallo);
     return caminante.final();
 }
 

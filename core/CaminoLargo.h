@@ -6,7 +6,7 @@
 
 namespace ovanta {
 
-enum class EnlaceFinal { Seguir, NoSeguir };
+enum class UltimoEnlace { seguir, describir };
 
 struct FinalDeCamino
 {
@@ -19,6 +19,6 @@ struct FinalDeCamino
 /// Walks an absolute path one component at a time, so that it may be longer than the system's own
 /// calls take. Slower than them: for the paths that they refuse with ENAMETOOLONG.
 /// Gives the errno of the first component that could not be passed.
-std::expected<FinalDeCamino, int> andarCaminoLargo(const std::string &ruta, EnlaceFinal enlaceFinal);
+std::expected<FinalDeCamino, int> andarCaminoLargo(const std::string &ruta, UltimoEnlace ultimo);
 
 } // namespace ovanta

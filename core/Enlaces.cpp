@@ -26,7 +26,7 @@ bool esEnlace(const std::string &ruta)
     struct stat atributos = {};
     if (::lstat(ruta.c_str(), &atributos) == 0) return S_ISLNK(atributos.st_mode);
     if (errno != ENAMETOOLONG) lanzarErrno(errno);
-    const auto final = andarCaminoLargo(ruta, EnlaceFinal::NoSeguir);
+    const auto final = andarCaminoLargo(ruta, UltimoEnlace::describir);
     if (!final) lanzarErrno(final.error());
     return S_ISLNK(final->modo);
 }
@@ -37,7 +37,7 @@ std::optional<std::string> resolverEnlaces(const std::string &ruta)
     const std::unique_ptr<char, decltype(&std::free)> resuelta(::realpath(ruta.c_str(), nullptr), &std::free);
     if (resuelta) return resuelta.get();
     if (errno != ENAMETOOLONG) return std::nullopt;
-    auto final = andarCaminoLargo(ruta, EnlaceFinal::Seguir);
+    auto final = andarCaminoLargo(ruta, UltimoEnlace::seguir);
     if (!final) return std::nullopt;
     return std::move(final->ruta);
 }

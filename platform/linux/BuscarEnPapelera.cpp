@@ -35,7 +35,7 @@ Listado listar(int carpeta)
 /// The info file, if it is a sane one.
 std::optional<InfoPapelera> leerInfoDe(int infos, const std::string &archivo)
 try {
-    return leerInfo(leerArchivo(infos, archivo, kMaximoDeInfo, EnlaceFinal::rechazar));
+    return leerInfo(leerArchivo(infos, archivo, maximoDeInfo, EnlaceFinal::rechazar));
 } catch (const ErrorDeLectura &) {
     return std::nullopt;
 }
@@ -47,14 +47,14 @@ bool buscarEnPapelera(const CarpetaPapelera &papelera, const std::string &rutaRe
     const std::string buscada = papelera.rutaEnInfo(rutaReal);
     const auto segundos = std::chrono::floor<std::chrono::seconds>(desde);
     const Listado listado = listar(papelera.infos.numero());
-    for (std::size_t vistos = 0; vistos < kMaximoDeInfos; ++vistos) {
+    for (std::size_t vistos = 0; vistos < maximoDeInfos; ++vistos) {
         const dirent *entrada = ::readdir(listado.get());
         if (entrada == nullptr) break;
         const std::string_view archivo = entrada->d_name;
-        if (!archivo.ends_with(kFinDeInfo)) continue;
+        if (!archivo.ends_with(finDeInfo)) continue;
         const auto info = leerInfoDe(papelera.infos.numero(), std::string(archivo));
         if (!info || info->ruta != buscada || info->fecha < segundos) continue;
-        const std::string nombre(archivo.substr(0, archivo.size() - kFinDeInfo.size()));
+        const std::string nombre(archivo.substr(0, archivo.size() - finDeInfo.size()));
         if (::faccessat(papelera.archivos.numero(), nombre.c_str(), F_OK, AT_SYMLINK_NOFOLLOW) == 0)
             return true;
     }

@@ -17,8 +17,8 @@ namespace ovanta {
 
 namespace {
 
-constexpr mode_t kSoloNuestra = 0700;
-constexpr const char *kEsLaPapelera = "la Papelera no se puede mover a la Papelera";
+constexpr mode_t soloNuestra = 0700;
+constexpr const char *esLaPapelera = "la Papelera no se puede mover a la Papelera";
 
 /// Which mount a folder belongs to. Two mounts of one volume differ only in `montaje`, two
 /// subvolumes of one mount only in `dispositivo`; a rename can cross neither.
@@ -52,7 +52,7 @@ std::string cimaDelMontaje(std::string ruta)
 /// The folder `nombre` in `padre`, which must be a real one and ours.
 Descriptor carpetaNuestra(int padre, const std::string &nombre, SiFalta siFalta)
 {
-    if (siFalta == SiFalta::crear && ::mkdirat(padre, nombre.c_str(), kSoloNuestra) != 0 && errno != EEXIST)
+    if (siFalta == SiFalta::crear && ::mkdirat(padre, nombre.c_str(), soloNuestra) != 0 && errno != EEXIST)
         lanzarErrno(errno);
     const bool esCarpeta = S_ISDIR(estadoDe(padre, nombre).st_mode);
     Descriptor carpeta = esCarpeta ? abrirSubcarpeta(padre, nombre) : Descriptor();
@@ -74,7 +74,7 @@ void crearCarpetas(const std::string &ruta)
 {
     for (std::size_t fin = 0; fin != std::string::npos;) {
         fin = ruta.find('/', fin + 1);
-        ::mkdir(ruta.substr(0, fin).c_str(), kSoloNuestra);
+        ::mkdir(ruta.substr(0, fin).c_str(), soloNuestra);
     }
 }
 
@@ -131,7 +131,7 @@ std::string CarpetaPapelera::rutaEnInfo(const std::string &rutaDelObjeto) const
 CarpetaPapelera papeleraPara(const LugarPapelera &lugar, const std::string &rutaDelObjeto, SiFalta siFalta)
 {
     const CarpetaReal datos = carpetaDeDatos(lugar, siFalta);
-    if (cruza(rutaDelObjeto, unir(datos.ruta, "Trash"))) throw RechazoPapelera(kEsLaPapelera);
+    if (cruza(rutaDelObjeto, unir(datos.ruta, "Trash"))) throw RechazoPapelera(esLaPapelera);
     const std::string carpeta(carpetaContenedora(rutaDelObjeto));
     const Sitio casa = sitioDe(datos.carpeta.numero());
     const Sitio objeto = sitioDe(abrirCarpetaReal(carpeta).numero());
@@ -140,7 +140,7 @@ CarpetaPapelera papeleraPara(const LugarPapelera &lugar, const std::string &ruta
     if (casa.dispositivo == objeto.dispositivo || casa.montaje == objeto.montaje)
         return abrirPapelera(datos.carpeta.numero(), "Trash", siFalta);
     CarpetaPapelera papelera = papeleraDelVolumen(carpeta, siFalta);
-    if (esPapeleraDeVolumen(papelera.rutaEnInfo(rutaDelObjeto))) throw RechazoPapelera(kEsLaPapelera);
+    if (esPapeleraDeVolumen(papelera.rutaEnInfo(rutaDelObjeto))) throw RechazoPapelera(esLaPapelera);
     return papelera;
 }
 

@@ -10,9 +10,9 @@ namespace ovanta {
 
 namespace {
 
-constexpr std::string_view kGrupo = "[Trash Info]";
-constexpr std::string_view kRuta = "Path=";
-constexpr std::string_view kFecha = "DeletionDate=";
+constexpr std::string_view grupo = "[Trash Info]";
+constexpr std::string_view ruta = "Path=";
+constexpr std::string_view fecha = "DeletionDate=";
 
 bool esLiteral(unsigned char c)
 {
@@ -127,9 +127,9 @@ std::optional<std::string> decodificarPorcentaje(std::string_view texto)
 
 std::string escribirInfo(const InfoPapelera &info)
 {
-    std::string texto(kGrupo);
-    texto.append("\n").append(kRuta).append(codificarPorcentaje(info.ruta));
-    texto.append("\n").append(kFecha).append(textoFechaLocal(info.fecha)).append("\n");
+    std::string texto(grupo);
+    texto.append("\n").append(ruta).append(codificarPorcentaje(info.ruta));
+    texto.append("\n").append(fecha).append(textoFechaLocal(info.fecha)).append("\n");
     return texto;
 }
 
@@ -141,10 +141,10 @@ std::optional<InfoPapelera> leerInfo(std::string_view texto)
         const std::size_t fin = std::min(texto.find('\n'), texto.size());
         const std::string_view linea = texto.substr(0, fin);
         texto.remove_prefix(std::min(fin + 1, texto.size()));
-        if (linea.starts_with('[')) enGrupo = linea == kGrupo;
+        if (linea.starts_with('[')) enGrupo = linea == grupo;
         if (!enGrupo) continue;
-        if (!ruta && linea.starts_with(kRuta)) ruta = linea.substr(kRuta.size());
-        if (!fecha && linea.starts_with(kFecha)) fecha = linea.substr(kFecha.size());
+        if (!ruta && linea.starts_with(ruta)) ruta = linea.substr(ruta.size());
+        if (!fecha && linea.starts_with(fecha)) fecha = linea.substr(fecha.size());
     }
     if (!ruta || ruta->empty() || !fecha) return std::nullopt;
     const auto bytes = decodificarPorcentaje(*ruta);

@@ -11,7 +11,7 @@ namespace ovanta {
 // The text of a ".trashinfo" file, by the freedesktop Trash specification 1.0.
 
 /// The end of every info file's name.
-inline constexpr std::string_view kFinDeInfo = ".trashinfo";
+inline constexpr std::string_view finDeInfo = ".trashinfo";
 
 /// What is remembered of an item in the Trash.
 struct InfoPapelera

@@ -25,7 +25,7 @@ std::string_view recortar(std::string_view nombre, std::size_t maximo)
 std::string nombreEnPapelera(std::string_view nombre, unsigned numero, std::size_t maximo)
 {
     const std::string fin = numero > 1 ? "." + std::to_string(numero) : std::string();
-    const std::size_t reservado = fin.size() + kFinDeInfo.size();
+    const std::size_t reservado = fin.size() + finDeInfo.size();
     return std::string(recortar(nombre, maximo > reservado ? maximo - reservado : 1)) + fin;
 }
 

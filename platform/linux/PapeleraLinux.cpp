@@ -14,7 +14,7 @@ namespace ovanta {
 
 namespace {
 
-constexpr const char *kCarpetaCambiada = "la carpeta que lo contiene cambió desde que se midió";
+constexpr const char *carpetaCambiada = "la carpeta que lo contiene cambió desde que se midió";
 
 struct Partes
 {
@@ -35,12 +35,12 @@ Partes partir(const std::string &ruta)
 Descriptor abrirLaMedida(const Papelera::Medida &medida)
 try {
     Descriptor carpeta = abrirCarpetaReal(medida.carpetaReal);
-    if (identidadDe(estadoDe(carpeta.numero())) != medida.carpeta) throw RechazoPapelera(kCarpetaCambiada);
+    if (identidadDe(estadoDe(carpeta.numero())) != medida.carpeta) throw RechazoPapelera(carpetaCambiada);
     return carpeta;
 } catch (const std::system_error &error) {
     const int codigo = error.code().value();
     if (codigo != ELOOP && codigo != ENOTDIR && codigo != ENOENT) throw;
-    throw RechazoPapelera(kCarpetaCambiada);
+    throw RechazoPapelera(carpetaCambiada);
 }
 
 } // namespace

@@ -16,12 +16,12 @@ namespace ovanta {
 
 namespace {
 
-constexpr int kLugar = O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
+constexpr int lugar = O_PATH | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 
 /// The same as RESOLVE_NO_SYMLINKS, one component after the other.
 Descriptor abrirPorComponentes(const std::string &ruta)
 {
-    Descriptor actual(::open("/", kLugar));
+    Descriptor actual(::open("/", lugar));
     if (!actual.abierto()) lanzarErrno(errno);
     for (std::size_t inicio = 0; inicio < ruta.size();) {
         const std::size_t fin = std::min(ruta.find('/', inicio), ruta.size());
@@ -36,7 +36,7 @@ Descriptor abrirPorComponentes(const std::string &ruta)
 Descriptor abrirCarpetaReal(const std::string &ruta)
 {
     open_how como{};
-    como.flags = kLugar;
+    como.flags = lugar;
     como.resolve = RESOLVE_NO_SYMLINKS;
     const long fd = ::syscall(SYS_openat2, AT_FDCWD, ruta.c_str(), &como, sizeof como);
     if (fd >= 0) return Descriptor(static_cast<int>(fd));
@@ -60,7 +60,7 @@ CarpetaReal abrirSiguiendo(const std::string &ruta)
 
 Descriptor abrirSubcarpeta(int carpeta, const std::string &nombre)
 {
-    Descriptor abierta(::openat(carpeta, nombre.c_str(), kLugar));
+    Descriptor abierta(::openat(carpeta, nombre.c_str(), lugar));
     if (!abierta.abierto()) lanzarErrno(errno);
     return abierta;
 }

@@ -21,8 +21,8 @@ namespace ovanta {
 
 namespace {
 
-constexpr const char *kArchivo = "directorysizes";
-constexpr std::uint64_t kBytesPorBloque = 512; // of st_blocks, whatever the file system
+constexpr const char *archivo = "directorysizes";
+constexpr std::uint64_t bytesPorBloque = 512; // of st_blocks, whatever the file system
 
 /// Disk usage of a folder and all below it in bytes, a file with several names counted once, as
 /// `du` does; nothing where a part cannot be seen.
@@ -30,15 +30,15 @@ std::optional<std::uint64_t> usoEnDisco(const std::string &carpeta)
 {
     namespace fs = std::filesystem;
     std::set<std::uint64_t> contados;
-    std::uint64_t bytes = multiplicar(estadoDe(AT_FDCWD, carpeta).st_blocks, kBytesPorBloque);
+    std::uint64_t bytes = multiplicar(estadoDe(AT_FDCWD, carpeta).st_blocks, bytesPorBloque);
     std::size_t entradas = 0;
     std::error_code error;
     for (fs::recursive_directory_iterator i(carpeta, error), fin; !error && i != fin; i.increment(error)) {
         const struct stat estado = estadoDe(AT_FDCWD, i->path().string());
-        if (++entradas > kMaximoDeEntradas) return std::nullopt;
+        if (++entradas > maximoDeEntradas) return std::nullopt;
         if (estado.st_nlink > 1 && !S_ISDIR(estado.st_mode) && !contados.insert(estado.st_ino).second)
             continue;
-        bytes = sumar(bytes, multiplicar(static_cast<std::uint64_t>(estado.st_blocks), kBytesPorBloque));
+        bytes = sumar(bytes, multiplicar(static_cast<std::uint64_t>(estado.st_blocks), bytesPorBloque));
     }
     return error ? std::nullopt : std::optional(bytes);
 }
@@ -46,7 +46,7 @@ std::optional<std::uint64_t> usoEnDisco(const std::string &carpeta)
 /// What the file holds; empty where there is none yet.
 std::string listaAnterior(int raiz)
 try {
-    return leerArchivo(raiz, kArchivo, kMaximoDeTamanos, EnlaceFinal::rechazar);
+    return leerArchivo(raiz, archivo, maximoDeTamanos, EnlaceFinal::rechazar);
 } catch (const ErrorDeLectura &error) {
     if (error.codigo() != ENOENT) throw;
     return {};
@@ -70,14 +70,14 @@ std::string sinLineaDe(std::string_view texto, const std::string &codificado)
 void reemplazar(int raiz, const std::string &texto, const AlPaso &alPaso)
 {
     const std::string aparte =
-        std::string(kArchivo) + "." + std::to_string(::getpid()) + "." + std::to_string(::gettid());
+        std::string(archivo) + "." + std::to_string(::getpid()) + "." + std::to_string(::gettid());
     const Descriptor nuevo(
         ::openat(raiz, aparte.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
     if (!nuevo.abierto()) lanzarErrno(errno);
     try {
         volcar(nuevo.numero(), texto);
         if (alPaso) alPaso(PasoPapelera::tamanoAparte);
-        if (::renameat(raiz, aparte.c_str(), raiz, kArchivo) != 0) lanzarErrno(errno);
+        if (::renameat(raiz, aparte.c_str(), raiz, archivo) != 0) lanzarErrno(errno);
     } catch (const std::system_error &) {
         ::unlinkat(raiz, aparte.c_str(), 0);
         throw;
@@ -93,7 +93,7 @@ try {
     const auto bytes = usoEnDisco(archivos + "/" + nombre);
     if (!bytes) return;
     const std::string anterior = listaAnterior(papelera.raiz.numero());
-    const auto info = estadoDe(papelera.infos.numero(), nombre + std::string(kFinDeInfo));
+    const auto info = estadoDe(papelera.infos.numero(), nombre + std::string(finDeInfo));
     const std::string codificado = codificarPorcentaje(nombre);
     std::string texto = sinLineaDe(anterior, codificado);
     texto.append(std::to_string(*bytes)).append(" ").append(std::to_string(info.st_mtim.tv_sec));

@@ -20,7 +20,7 @@ namespace ovanta {
 namespace {
 
 /// Other programs can take names as fast as we find them free, but not this often in a row.
-constexpr int kIntentos = 1000;
+constexpr int intentos = 1000;
 
 void avisar(const AlPaso &alPaso, PasoPapelera paso)
 {
@@ -34,7 +34,7 @@ bool existe(int carpeta, const std::string &nombre)
 
 std::string nombreDeInfo(const std::string &nombre)
 {
-    return nombre + std::string(kFinDeInfo);
+    return nombre + std::string(finDeInfo);
 }
 
 /// The longest name that the folder's file system takes.
@@ -156,7 +156,7 @@ std::string trasladar(const CarpetaPapelera &papelera, const ObjetoATrasladar &o
                existe(papelera.archivos.numero(), nombre(numero));
     };
     unsigned numero = 1;
-    for (int intento = 0; intento < kIntentos; ++intento) {
+    for (int intento = 0; intento < intentos; ++intento) {
         if (intentar(papelera, objeto, nombre(numero), info, alPaso)) return nombre(numero);
         numero = numeroLibre(numero + 1, ocupado);
     }

@@ -36,7 +36,7 @@ struct ObjetoATrasladar
 /// Moves the item into the Trash with `info` as the text of its info file and returns its name there.
 /// The complete info file is there before the item, so that whatever ends the process, nothing
 /// lies in the Trash without its origin; at worst an info file without an item stays behind, which
-/// the specification tells every program to ignore. Nothing is overwritten. An item that turns
+/// the standard tells every program to ignore. Nothing is overwritten. An item that turns
 /// out not to be the measured one is put back. Throws `RechazoPapelera` or std::system_error.
 ///
 /// Nothing is synced: a sync for each item would cost more than everything else together. After a

@@ -202,7 +202,7 @@ TEST_F(SeguridadPropiedades, theLongWalkEndsWhereTheKernelEnds)
         for (int i = 0; i < 2000; ++i) {
             const auto ruta = estandarizar(hechos.ruta());
             if (ruta.find('\0') != std::string::npos) continue;
-            const auto andada = andarCaminoLargo(ruta, EnlaceFinal::Seguir);
+            const auto andada = andarCaminoLargo(ruta, UltimoEnlace::seguir);
             const auto esperada = segunElNucleo(ruta);
             ASSERT_EQ(andada.has_value(), esperada.has_value()) << testing::PrintToString(ruta);
             if (andada) ASSERT_EQ(andada->ruta, *esperada) << testing::PrintToString(ruta);

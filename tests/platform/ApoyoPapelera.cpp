@@ -23,7 +23,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr uid_t kNadie = 65534;
+constexpr uid_t nadie = 65534;
 
 std::string leerTodo(int fd)
 {
@@ -62,7 +62,7 @@ ContenidoDePapelera contenidoDe(const std::string &papelera)
 {
     ContenidoDePapelera contenido;
     for (const std::string &nombre : nombresEn(papelera + "/files")) {
-        const auto info = leerInfo(leer(papelera + "/info/" + nombre + std::string(kFinDeInfo)));
+        const auto info = leerInfo(leer(papelera + "/info/" + nombre + std::string(finDeInfo)));
         if (info) {
             contenido.objetos[nombre] = *info;
         } else {
@@ -71,7 +71,7 @@ ContenidoDePapelera contenidoDe(const std::string &papelera)
     }
     for (const std::string &nombre : nombresEn(papelera + "/info")) {
         const std::string objeto =
-            nombre.substr(0, nombre.size() - std::min(nombre.size(), kFinDeInfo.size()));
+            nombre.substr(0, nombre.size() - std::min(nombre.size(), finDeInfo.size()));
         if (!contenido.objetos.contains(objeto)) contenido.infosSueltas.push_back(nombre);
     }
     return contenido;
@@ -160,7 +160,7 @@ FinDeHijo comoCualquiera(const std::function<std::string()> &tarea)
 {
     return enHijo([&]() -> std::string {
         if (::geteuid() == 0 &&
-            (::setresgid(kNadie, kNadie, kNadie) != 0 || ::setresuid(kNadie, kNadie, kNadie) != 0))
+            (::setresgid(nadie, nadie, nadie) != 0 || ::setresuid(nadie, nadie, nadie) != 0))
             return "cannot become nobody";
         return tarea();
     });

@@ -46,8 +46,8 @@ protected:
     }
 };
 
-constexpr const char *kCarpetaCambiada = "la carpeta que lo contiene cambió desde que se midió";
-constexpr const char *kCambiado = "cambió desde que se midió";
+constexpr const char *carpetaCambiada = "la carpeta que lo contiene cambió desde que se midió";
+constexpr const char *cambiado = "cambió desde que se midió";
 
 } // namespace
 
@@ -57,7 +57,7 @@ TEST_F(PapeleraConCambios, aFolderOnTheWayThatBecameALinkIsNotFollowed)
                   fs::rename(hogar + "/a", hogar + "/b");
                   fs::create_directory_symlink(base + "/fuera", hogar + "/a");
               }),
-              kCarpetaCambiada);
+              carpetaCambiada);
     EXPECT_EQ(leer(base + "/fuera/x"), "ajeno");
     EXPECT_EQ(leer(hogar + "/b/x"), "medido");
     esperarPapeleraVacia();
@@ -70,7 +70,7 @@ TEST_F(PapeleraConCambios, anotherFolderInItsPlaceIsRefusedEvenWithTheSameItem)
                   fs::create_directory(hogar + "/a");
                   fs::rename(hogar + "/b/x", hogar + "/a/x");
               }),
-              kCarpetaCambiada);
+              carpetaCambiada);
     EXPECT_EQ(leer(hogar + "/a/x"), "medido");
     esperarPapeleraVacia();
 }
@@ -81,13 +81,13 @@ TEST_F(PapeleraConCambios, anotherItemOfTheSameNameStays)
                   escribir(hogar + "/nuevo", "nuevo");
                   fs::rename(hogar + "/nuevo", hogar + "/a/x");
               }),
-              kCambiado);
+              cambiado);
     EXPECT_EQ(leer(hogar + "/a/x"), "nuevo");
     EXPECT_EQ(tras([&] {
                   fs::rename(hogar + "/a/x", hogar + "/a/y");
                   fs::create_symlink(hogar + "/a/y", hogar + "/a/x");
               }),
-              kCambiado);
+              cambiado);
     EXPECT_TRUE(fs::is_symlink(hogar + "/a/x"));
     esperarPapeleraVacia();
 }
@@ -99,7 +99,7 @@ TEST_F(PapeleraConCambios, anItemThatWentAwayIsARefusal)
                   escribir(hogar + "/a/x");
                   return tras([&] { fs::remove_all(hogar + "/a"); });
               }).queja,
-              kCarpetaCambiada);
+              carpetaCambiada);
     esperarPapeleraVacia();
 }
 

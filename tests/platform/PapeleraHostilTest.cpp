@@ -20,11 +20,11 @@ namespace fs = std::filesystem;
 namespace {
 
 #if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
-constexpr int kIntentos = 10'000;
+constexpr int intentos = 10'000;
 #else
-constexpr int kIntentos = 100'000;
+constexpr int intentos = 100'000;
 #endif
-constexpr int kRevisarCada = 2'000;
+constexpr int revisarCada = 2'000;
 
 /// Temporary folders in memory for one test: on a disk its journal would be what is measured.
 class EnMemoria
@@ -152,10 +152,10 @@ TEST_F(PapeleraAtacada, nothingOutsideHomeMovesAndNothingIsLost)
     if (atacante == 0) atacar();
     PapeleraLinux papelera = hacer();
     int movidos = 0;
-    for (int i = 1; i <= kIntentos && !HasFatalFailure(); ++i) {
+    for (int i = 1; i <= intentos && !HasFatalFailure(); ++i) {
         reponer();
         if (intentar(papelera)) ++movidos;
-        if (i % kRevisarCada == 0) revisarYVaciar();
+        if (i % revisarCada == 0) revisarYVaciar();
     }
     ::kill(atacante, SIGKILL);
     ::waitpid(atacante, nullptr, 0);
@@ -167,7 +167,7 @@ TEST_F(PapeleraAtacada, nothingOutsideHomeMovesAndNothingIsLost)
     }
     EXPECT_EQ(m_encontrados, m_creados);
     EXPECT_EQ(arbolDeFuera(), m_fuera);
-    EXPECT_GT(movidos, kIntentos / 1000) << "the attack leaves nothing to be tested";
-    EXPECT_LT(movidos, kIntentos) << "the attack never struck";
+    EXPECT_GT(movidos, intentos / 1000) << "the attack leaves nothing to be tested";
+    EXPECT_LT(movidos, intentos) << "the attack never struck";
     RecordProperty("movidos", movidos);
 }

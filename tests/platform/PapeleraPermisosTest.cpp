@@ -18,7 +18,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr uid_t kNadie = 65534;
+constexpr uid_t nadie = 65534;
 
 /// What an ordinary user has no right to move.
 class PapeleraSinPermiso : public ConPapelera
@@ -39,9 +39,9 @@ protected:
     void darHogar() const
     {
         if (::geteuid() != 0) return;
-        ASSERT_EQ(::lchown(hogar.c_str(), kNadie, kNadie), 0);
+        ASSERT_EQ(::lchown(hogar.c_str(), nadie, nadie), 0);
         for (const auto &entrada : fs::recursive_directory_iterator(hogar))
-            ASSERT_EQ(::lchown(entrada.path().c_str(), kNadie, kNadie), 0);
+            ASSERT_EQ(::lchown(entrada.path().c_str(), nadie, nadie), 0);
     }
 
     std::string reciclarComoCualquiera(const std::string &ruta) const

@@ -220,15 +220,15 @@ TEST_F(PapeleraDeCasa, tenThousandItemsOfOneNameAllArrive)
 
 TEST_F(PapeleraDeCasa, threadsThatMoveItemsOfOneNameGetANameEach)
 {
-    constexpr int kHilos = 4, kCadaUno = 100;
+    constexpr int hilos = 4, cadaUno = 100;
     PapeleraLinux papelera = hacer();
     {
         std::vector<std::jthread> hilos;
-        for (int hilo = 0; hilo < kHilos; ++hilo) {
+        for (int hilo = 0; hilo < hilos; ++hilo) {
             hilos.emplace_back([&, hilo] {
-                for (int i = 0; i < kCadaUno; ++i) {
+                for (int i = 0; i < cadaUno; ++i) {
                     const std::string ruta = hogar + "/" + std::to_string(hilo) + "/x";
-                    escribir(ruta, std::to_string(hilo * kCadaUno + i));
+                    escribir(ruta, std::to_string(hilo * cadaUno + i));
                     const auto medida = papelera.medir(ruta);
                     EXPECT_TRUE(medida && papelera.reciclar(*medida));
                 }
@@ -239,7 +239,7 @@ TEST_F(PapeleraDeCasa, threadsThatMoveItemsOfOneNameGetANameEach)
     const auto contenido = contenidoDe(suya);
     for (const auto &[nombre, info] : contenido.objetos)
         textos.insert(leer(suya + "/files/" + nombre));
-    EXPECT_EQ(textos.size(), static_cast<size_t>(kHilos * kCadaUno));
+    EXPECT_EQ(textos.size(), static_cast<size_t>(hilos * cadaUno));
     EXPECT_TRUE(contenido.sinInfo.empty() && contenido.infosSueltas.empty());
 }
 
