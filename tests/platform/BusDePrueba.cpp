@@ -150,6 +150,7 @@ QList<QVariantList> ServidorSimulado::llamadas(const QString &metodo)
         lista.endStructure();
         resultado << argumentos;
     }
+    lista.endArray();
     return resultado;
 }
 
