@@ -114,7 +114,8 @@ class Elemento:
         return [e.nombre for e in self.todos() if e.nombre and e.visible]
 
     def arbol(self, sangria=0):
-        linea = f"{'  ' * sangria}{self.papel} «{self.nombre}»{' ✓' if self.marcado else ''}"
+        """All that can be found here, one line each, a dot before what is not visible."""
+        linea = f"{'  ' * sangria}{'' if self.visible else '·'}{self.papel} «{self.nombre}»{' ✓' if self.marcado else ''}"
         return "\n".join([linea] + [hijo.arbol(sangria + 1) for hijo in self.hijos()])
 
     def __repr__(self):

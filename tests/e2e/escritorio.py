@@ -12,6 +12,7 @@ import gi
 
 gi.require_version("Atspi", "2.0")
 from gi.repository import GLib  # noqa: E402
+from Xlib.display import Display  # noqa: E402
 
 import servicios  # noqa: E402
 from bus import HiloDeBus, conectar, llamar  # noqa: E402
@@ -111,6 +112,15 @@ class Escritorio:
         if not numero:
             raise RuntimeError("Xvfb no arrancó")
         self.display = ":" + numero
+        self._apartar_puntero()
+
+    def _apartar_puntero(self):
+        """Into the corner, where it rests on nothing that would light up."""
+        pantalla = Display(self.display)
+        raiz = pantalla.screen()
+        raiz.root.warp_pointer(raiz.width_in_pixels - 1, raiz.height_in_pixels - 1)
+        pantalla.sync()
+        pantalla.close()
 
     def _levantar_bus(self):
         configuracion = os.path.join(self.carpeta, "bus.conf")

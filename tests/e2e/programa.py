@@ -12,7 +12,7 @@ from esperar import esperar
 from procesos import iniciar, terminar, vivos_del_grupo
 
 # What Qt Quick says when a screen is broken.
-QUEJAS = ("qrc:", "QML", "ReferenceError", "TypeError", "ovanta:", "Sanitizer", "ASSERT")
+QUEJAS = ("qrc:", "QML", "QQml", "ReferenceError", "TypeError", "ovanta:", "Sanitizer", "ASSERT")
 
 
 class Casa:
