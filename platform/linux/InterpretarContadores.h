@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/Contadores.h"
+
+#include <functional>
+#include <optional>
+#include <string_view>
+
+namespace ovanta {
+
+/// The first line of /proc/stat. Interrupts count as system time, waiting for disks as idle time;
+/// what a hypervisor took is neither. Nothing for a text that does not begin with that line.
+std::optional<Contadores::Ticks> interpretarStat(std::string_view texto);
+
+/// Sums the received and sent bytes of /proc/net/dev over the interfaces that `cuenta` accepts. Lines
+/// that cannot be understood don't count.
+Contadores::Red interpretarNetDev(std::string_view texto,
+                                  const std::function<bool(std::string_view interfaz)> &cuenta);
+
+/// Whether the name is one that the system gives to a wired, wireless or mobile network card.
+bool nombreDeTarjeta(std::string_view interfaz);
+
+/// /proc/meminfo: anonymous and shared memory are `apps`; what the kernel holds and what is locked is
+/// `wired`; `comprimida` is zswap's store only. Nothing where the size of the memory is not told.
+std::optional<Contadores::Memoria> interpretarMeminfo(std::string_view texto);
+
+/// The memory that one zram device takes, of its "mm_stat"; 0 where that is not told.
+std::uint64_t interpretarZram(std::string_view texto);
+
+} // namespace ovanta
