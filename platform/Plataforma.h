@@ -4,6 +4,8 @@
 #include "platform/AnfitrionBandeja.h"
 #include "platform/Apariencia.h"
 #include "platform/Aplicaciones.h"
+#include "platform/Bateria.h"
+#include "platform/Contadores.h"
 #include "platform/DialogoCritico.h"
 #include "platform/GestorArchivos.h"
 #include "platform/Herramientas.h"
@@ -13,6 +15,7 @@
 #include "platform/Papelera.h"
 #include "platform/Reloj.h"
 #include "platform/Suspension.h"
+#include "platform/Termico.h"
 #include "platform/Volumen.h"
 
 namespace ovanta {
@@ -38,6 +41,9 @@ public:
     virtual Apariencia &apariencia() = 0;
     virtual AnfitrionBandeja &anfitrionBandeja() = 0;
     virtual InstanciaUnica &instanciaUnica() = 0;
+    virtual Contadores &contadores() = 0;
+    virtual Termico &termico() = 0;
+    virtual Bateria &bateria() = 0;
 };
 
 } // namespace ovanta

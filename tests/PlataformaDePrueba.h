@@ -9,6 +9,7 @@
 #include <functional>
 #include <map>
 #include <mutex>
+#include <utility>
 #include <vector>
 
 namespace ovanta::pruebas {
@@ -195,6 +196,47 @@ struct InstanciaDePrueba final : InstanciaUnica
     bool iniciadaPorLaSesion() const override { return silenciosa; }
 };
 
+struct ContadoresDePrueba final : Contadores
+{
+    std::optional<Ticks> ticks = Ticks{};
+    Red bytes;
+    std::optional<Memoria> enUso = Memoria{4, 2, 1, 16};
+
+    std::optional<Ticks> procesador() override { return ticks; }
+    Red red() override { return bytes; }
+    std::optional<Memoria> memoria() override { return enUso; }
+};
+
+struct TermicoDePrueba final : Termico
+{
+    EstadoTermico actual = EstadoTermico::nominal;
+
+    EstadoTermico estado() override { return actual; }
+};
+
+/// Answers at once, or holds its answers back until `responder`.
+struct BateriaDePrueba final : Bateria
+{
+    std::optional<EstadoBateria> actual;
+    bool lenta = false;
+    int lecturas = 0;
+    std::vector<std::function<void(std::optional<EstadoBateria>)>> pendientes;
+
+    void leer(std::function<void(std::optional<EstadoBateria>)> listo) override
+    {
+        ++lecturas;
+        if (lenta)
+            pendientes.push_back(std::move(listo));
+        else
+            listo(actual);
+    }
+    void responder()
+    {
+        for (const auto &listo : std::exchange(pendientes, {}))
+            listo(actual);
+    }
+};
+
 /// A whole platform of fakes whose members a test reads and sets directly.
 struct PlataformaDePrueba : Plataforma
 {
@@ -213,6 +255,9 @@ struct PlataformaDePrueba : Plataforma
     AparienciaDePrueba m_apariencia;
     AnfitrionDePrueba m_anfitrion;
     InstanciaDePrueba m_instancia;
+    ContadoresDePrueba m_contadores;
+    TermicoDePrueba m_termico;
+    BateriaDePrueba m_bateria;
 
     const Lugares &lugares() const override { return m_lugares; }
     Preferencias &preferencias() override { return m_preferencias; }
@@ -228,6 +273,9 @@ struct PlataformaDePrueba : Plataforma
     Apariencia &apariencia() override { return m_apariencia; }
     AnfitrionBandeja &anfitrionBandeja() override { return m_anfitrion; }
     InstanciaUnica &instanciaUnica() override { return m_instancia; }
+    Contadores &contadores() override { return m_contadores; }
+    Termico &termico() override { return m_termico; }
+    Bateria &bateria() override { return m_bateria; }
 };
 
 } // namespace ovanta::pruebas

@@ -5,6 +5,8 @@
 #include "platform/linux/AnfitrionBandejaLinux.h"
 #include "platform/linux/AparienciaLinux.h"
 #include "platform/linux/AplicacionesLinux.h"
+#include "platform/linux/BateriaLinux.h"
+#include "platform/linux/ContadoresLinux.h"
 #include "platform/linux/DialogoCriticoLinux.h"
 #include "platform/linux/GestorArchivosLinux.h"
 #include "platform/linux/HerramientasLinux.h"
@@ -14,6 +16,7 @@
 #include "platform/linux/PapeleraLinux.h"
 #include "platform/linux/RelojLinux.h"
 #include "platform/linux/SuspensionLinux.h"
+#include "platform/linux/TermicoLinux.h"
 #include "platform/linux/VolumenLinux.h"
 
 namespace ovanta {
@@ -39,6 +42,9 @@ public:
     Apariencia &apariencia() override { return m_apariencia; }
     AnfitrionBandeja &anfitrionBandeja() override { return m_anfitrionBandeja; }
     InstanciaUnica &instanciaUnica() override { return m_instanciaUnica; }
+    Contadores &contadores() override { return m_contadores; }
+    Termico &termico() override { return m_termico; }
+    Bateria &bateria() override { return m_bateria; }
 
 private:
     EntornoLugares m_entorno;
@@ -57,6 +63,9 @@ private:
     AparienciaLinux m_apariencia;
     AnfitrionBandejaLinux m_anfitrionBandeja;
     InstanciaUnicaLinux m_instanciaUnica;
+    ContadoresLinux m_contadores;
+    TermicoLinux m_termico;
+    BateriaLinux m_bateria{QDBusConnection::systemBus()};
 };
 
 } // namespace ovanta

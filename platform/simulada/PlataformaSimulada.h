@@ -9,6 +9,7 @@
 #include "platform/simulada/PreferenciasRegistradas.h"
 #include "platform/simulada/RegistroMutaciones.h"
 #include "platform/simulada/RelojSimulado.h"
+#include "platform/simulada/SensoresSimulados.h"
 #include "platform/simulada/VolumenSimulado.h"
 
 namespace ovanta {
@@ -54,6 +55,9 @@ public:
     AparienciaSimulada &apariencia() override { return m_apariencia; }
     AnfitrionBandejaSimulado &anfitrionBandeja() override { return m_anfitrion; }
     InstanciaUnicaSimulada &instanciaUnica() override { return m_instancia; }
+    ContadoresSimulados &contadores() override { return m_contadores; }
+    TermicoSimulado &termico() override { return m_termico; }
+    BateriaSimulada &bateria() override { return m_bateria; }
 
 private:
     RegistroMutaciones m_registro;
@@ -72,6 +76,9 @@ private:
     AparienciaSimulada m_apariencia;
     AnfitrionBandejaSimulado m_anfitrion;
     InstanciaUnicaSimulada m_instancia;
+    ContadoresSimulados m_contadores{m_reloj};
+    TermicoSimulado m_termico;
+    BateriaSimulada m_bateria{m_reloj};
 };
 
 } // namespace ovanta
