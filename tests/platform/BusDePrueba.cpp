@@ -6,7 +6,9 @@
 #include <QDBusReply>
 #include <QDir>
 #include <QFile>
+#include <csignal>
 #include <gtest/gtest.h>
+#include <sys/prctl.h>
 
 namespace ovanta::pruebas {
 
@@ -43,6 +45,8 @@ BusDePrueba::BusDePrueba()
     m_direccion = QStringLiteral("unix:path=%1/bus").arg(carpeta);
     m_proceso.setProcessEnvironment(entornoCon(m_direccion));
     m_proceso.setStandardErrorFile(QProcess::nullDevice());
+    // It must not outlive a test program that crashed.
+    m_proceso.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
     m_proceso.start(QStringLiteral("dbus-daemon"),
                     {QStringLiteral("--nofork"), QStringLiteral("--print-address=1"),
                      QStringLiteral("--config-file=%1/bus.conf").arg(carpeta)});
