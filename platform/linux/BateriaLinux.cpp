@@ -15,7 +15,6 @@ void BateriaLinux::leer(std::function<void(std::optional<EstadoBateria>)> listo)
 {
     m_esperando.push_back(std::move(listo));
     if (m_esperando.size() > 1) return;
-    if (!m_bus.isConnected()) return leerDelNucleo();
     leerBateriasUPower(m_bus, &m_contexto, [this](const std::optional<LecturaBaterias> &lectura) {
         if (lectura)
             responder(*lectura);

@@ -3,6 +3,7 @@
 #include "platform/linux/LlamadaDBus.h"
 
 #include <QDBusObjectPath>
+#include <QDBusPendingReply>
 #include <algorithm>
 #include <climits>
 #include <memory>
