@@ -7,5 +7,6 @@ namespace ovanta {
 int bancoEjecutar(int argc, char **argv);
 int bancoValidar(int argc, char **argv);
 int bancoPapelera(int argc, char **argv);
+int bancoMuestra(int argc, char **argv);
 
 } // namespace ovanta
