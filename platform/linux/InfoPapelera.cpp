@@ -11,8 +11,8 @@ namespace ovanta {
 namespace {
 
 constexpr std::string_view grupo = "[Trash Info]";
-constexpr std::string_view ruta = "Path=";
-constexpr std::string_view fecha = "DeletionDate=";
+constexpr std::string_view lineaRuta = "Path=";
+constexpr std::string_view lineaFecha = "DeletionDate=";
 
 bool esLiteral(unsigned char c)
 {
@@ -128,8 +128,8 @@ std::optional<std::string> decodificarPorcentaje(std::string_view texto)
 std::string escribirInfo(const InfoPapelera &info)
 {
     std::string texto(grupo);
-    texto.append("\n").append(ruta).append(codificarPorcentaje(info.ruta));
-    texto.append("\n").append(fecha).append(textoFechaLocal(info.fecha)).append("\n");
+    texto.append("\n").append(lineaRuta).append(codificarPorcentaje(info.ruta));
+    texto.append("\n").append(lineaFecha).append(textoFechaLocal(info.fecha)).append("\n");
     return texto;
 }
 
@@ -143,8 +143,8 @@ std::optional<InfoPapelera> leerInfo(std::string_view texto)
         texto.remove_prefix(std::min(fin + 1, texto.size()));
         if (linea.starts_with('[')) enGrupo = linea == grupo;
         if (!enGrupo) continue;
-        if (!ruta && linea.starts_with(ruta)) ruta = linea.substr(ruta.size());
-        if (!fecha && linea.starts_with(fecha)) fecha = linea.substr(fecha.size());
+        if (!ruta && linea.starts_with(lineaRuta)) ruta = linea.substr(lineaRuta.size());
+        if (!fecha && linea.starts_with(lineaFecha)) fecha = linea.substr(lineaFecha.size());
     }
     if (!ruta || ruta->empty() || !fecha) return std::nullopt;
     const auto bytes = decodificarPorcentaje(*ruta);
