@@ -7,6 +7,7 @@ Usage: medir.py BIN_FOLDER [--segundos N] [--solo NAME,...]
 import argparse
 import json
 import os
+import signal
 import statistics
 import subprocess
 import sys
@@ -32,19 +33,30 @@ def hogar_vacio():
 
 
 class Programa:
-    """A program on the desktop that ends with the block."""
+    """A program on the desktop that ends with the block. With `de_la_sesion` its parent bears the
+    name of a session manager, as at login."""
 
-    def __init__(self, escritorio, orden, **entorno):
+    def __init__(self, escritorio, orden, de_la_sesion=False):
         self.hogar = hogar_vacio()
+        if de_la_sesion:
+            gestor = os.path.join(self.hogar.name, "xfce4-session")
+            os.symlink("/bin/sh", gestor)
+            orden = [gestor, "-c", '"$0"; :', *orden]
         self.inicio = time.monotonic()
-        self.proceso = subprocess.Popen(orden, env=escritorio.entorno(self.hogar.name, **entorno),
+        self.proceso = subprocess.Popen(orden, env=escritorio.entorno(self.hogar.name), start_new_session=True,
                                         stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self.pid = self.proceso.pid
+        if de_la_sesion:
+            hijos = Path(f"/proc/{self.pid}/task/{self.pid}/children")
+            while not hijos.read_text().split():
+                time.sleep(0.01)
+            self.pid = int(hijos.read_text().split()[0])
 
     def __enter__(self):
         return self
 
     def __exit__(self, *_):
-        self.proceso.terminate()
+        os.kill(self.pid, signal.SIGTERM)
         self.proceso.wait(20)
         self.hogar.cleanup()
 
@@ -97,12 +109,12 @@ def leer_reposo(pid):
 
 def medir_reposo(escritorio, binarios, segundos):
     """Both rest side by side; ours as the session starts it: the icon alone."""
-    with Programa(escritorio, [str(binarios / "OvantaBar")], DBUS_STARTER_BUS_TYPE="session") as nuestro, \
+    with Programa(escritorio, [str(binarios / "OvantaBar")], de_la_sesion=True) as nuestro, \
             Programa(escritorio, [str(binarios / "referencia_bandeja")]) as referencia:
         time.sleep(8)
-        antes = [leer_reposo(p.proceso.pid) for p in (nuestro, referencia)]
+        antes = [leer_reposo(p.pid) for p in (nuestro, referencia)]
         time.sleep(segundos)
-        despues = [leer_reposo(p.proceso.pid) for p in (nuestro, referencia)]
+        despues = [leer_reposo(p.pid) for p in (nuestro, referencia)]
     linea("bandeja: memoria privada", despues[0][0], despues[1][0], "MiB")
     linea("bandeja: procesador", *(100 * (d[1] - a[1]) / segundos for a, d in zip(antes, despues)), "% de un núcleo")
     linea("bandeja: despertares", *((d[2] - a[2]) / segundos for a, d in zip(antes, despues)), "por segundo")
@@ -118,6 +130,16 @@ def medir_ejecutar(_, binarios):
     linea("ejecutar frente a posix_spawn", datos["ejecutar_us"], datos["posix_spawn_us"], "µs")
 
 
+def medir_seguridad(_, binarios):
+    datos = banco(binarios, "validar")
+    print(json.dumps(datos))
+
+
+def medir_papelera(_, binarios):
+    datos = banco(binarios, "papelera")
+    print(json.dumps(datos))
+
+
 def main():
     argumentos = argparse.ArgumentParser()
     argumentos.add_argument("binarios", type=Path)
@@ -129,6 +151,8 @@ def main():
         "arranque": lambda e: medir_arranque(e, binarios),
         "reposo": lambda e: medir_reposo(e, binarios, opciones.segundos),
         "ejecutar": lambda e: medir_ejecutar(e, binarios),
+        "seguridad": lambda e: medir_seguridad(e, binarios),
+        "papelera": lambda e: medir_papelera(e, binarios),
     }
     elegidas = [m for m in opciones.solo.split(",") if m] or list(medidas)
     print(f"{'':44} {'Ovanta':>12} {'referencia':>12} {'razón':>8}")
