@@ -10,8 +10,9 @@ namespace ovanta {
 
 namespace {
 
-/// Everything is drawn on a square of this side and scaled to the size that is asked for.
-constexpr double lado = 24.0;
+constexpr std::string_view simboloUnidad = "internaldrive";
+constexpr std::string_view simboloAviso = "exclamationmark.triangle.fill";
+constexpr std::string_view simboloCritico = "exclamationmark.octagon.fill";
 
 QPainterPath unidad()
 {
@@ -66,19 +67,6 @@ QPainterPath octogono()
     return forma.subtracted(exclamacion(6.6, 17.4));
 }
 
-QPainterPath formaDe(NivelDisco nivel)
-{
-    switch (nivel) {
-    case NivelDisco::ok:
-        return unidad();
-    case NivelDisco::aviso:
-        return triangulo();
-    case NivelDisco::critico:
-        return octogono();
-    }
-    return unidad();
-}
-
 QColor colorDe(NivelDisco nivel, bool claro)
 {
     switch (nivel) {
@@ -94,16 +82,37 @@ QColor colorDe(NivelDisco nivel, bool claro)
 
 } // namespace
 
+std::string_view nombreDeSimbolo(NivelDisco nivel)
+{
+    switch (nivel) {
+    case NivelDisco::ok:
+        return simboloUnidad;
+    case NivelDisco::aviso:
+        return simboloAviso;
+    case NivelDisco::critico:
+        return simboloCritico;
+    }
+    return simboloUnidad;
+}
+
+QPainterPath formaDeSimbolo(std::string_view nombre)
+{
+    if (nombre == simboloUnidad) return unidad();
+    if (nombre == simboloAviso) return triangulo();
+    if (nombre == simboloCritico) return octogono();
+    return {};
+}
+
 QIcon simboloDeNivel(NivelDisco nivel, bool claro)
 {
-    const QPainterPath forma = formaDe(nivel);
+    const QPainterPath forma = formaDeSimbolo(nombreDeSimbolo(nivel));
     QIcon icono;
     for (const int tamano : {16, 22, 24, 32, 48, 64}) {
         QPixmap imagen(tamano, tamano);
         imagen.fill(Qt::transparent);
         QPainter pintor(&imagen);
         pintor.setRenderHint(QPainter::Antialiasing);
-        pintor.scale(tamano / lado, tamano / lado);
+        pintor.scale(tamano / ladoDeSimbolo, tamano / ladoDeSimbolo);
         pintor.fillPath(forma, colorDe(nivel, claro));
         pintor.end();
         icono.addPixmap(imagen);
