@@ -1,14 +1,17 @@
 #include "app/Bandeja.h"
 
+#include "app/ImagenBarra.h"
 #include "app/SimboloNivel.h"
 #include "core/qt/HiloPrincipal.h"
+
+#include <QPixmap>
 
 namespace ovanta {
 
 Bandeja::Bandeja(QObject *parent) : QObject(parent)
 {
-    m_lineaLibre = m_menu.addAction(QString());
-    m_lineaLibre->setEnabled(false);
+    m_linea = m_menu.addAction(QString());
+    m_linea->setEnabled(false);
     m_menu.addSeparator();
     connect(m_menu.addAction(QStringLiteral("Abrir Ovanta")), &QAction::triggered, this,
             &Bandeja::abrirPedido);
@@ -49,14 +52,30 @@ void Bandeja::actualizar(const Estado &estado)
 
 void Bandeja::pintar()
 {
-    const QString linea = m_estado.libre + QStringLiteral(" libres");
-    m_lineaLibre->setText(linea);
-    if (!m_icono || m_pintado == m_estado) return;
-    const bool mismaImagen =
-        m_pintado && m_pintado->nivel == m_estado.nivel && m_pintado->panelOscuro == m_estado.panelOscuro;
-    if (!mismaImagen) m_icono->setIcon(simboloDeNivel(m_estado.nivel, m_estado.panelOscuro));
-    m_icono->setToolTip(QStringLiteral("Ovanta · ") + linea);
+    m_linea->setText(m_estado.linea);
+    if (!m_icono) return;
+    if (!mismaImagen()) pintarImagen();
+    const QString ayuda =
+        m_estado.texto.isEmpty() ? QStringLiteral("Ovanta") : QStringLiteral("Ovanta · ") + m_estado.texto;
+    if (ayuda != m_icono->toolTip()) m_icono->setToolTip(ayuda);
+}
+
+bool Bandeja::mismaImagen() const
+{
+    if (!m_pintado || m_pintado->panelOscuro != m_estado.panelOscuro) return false;
+    if (m_pintado->etiqueta && m_estado.etiqueta) return m_pintado->etiqueta->seVeIgual(*m_estado.etiqueta);
+    return !m_pintado->etiqueta && !m_estado.etiqueta && m_pintado->nivel == m_estado.nivel;
+}
+
+void Bandeja::pintarImagen()
+{
     m_pintado = m_estado;
+    const std::optional<QImage> ancha =
+        m_estado.etiqueta ? imagenBarra(*m_estado.etiqueta) : std::optional<QImage>{};
+    if (ancha)
+        m_icono->setIcon(QPixmap::fromImage(tenir(*ancha, m_estado.panelOscuro ? Qt::white : Qt::black)));
+    else
+        m_icono->setIcon(simboloDeNivel(m_estado.nivel, m_estado.panelOscuro));
 }
 
 } // namespace ovanta

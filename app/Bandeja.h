@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/EtiquetaBarra.h"
 #include "monitors/NivelDisco.h"
 
 #include <QMenu>
@@ -10,8 +11,8 @@
 
 namespace ovanta {
 
-/// The status icon: the level as a picture, the free space in its tooltip and in the first line of
-/// its menu. The picture is drawn again only when it changes. Main thread.
+/// The status icon. Its picture is the level's symbol, or the whole label where the host shows it; the
+/// tooltip says what the label says. The picture is drawn again only when it changes. Main thread.
 class Bandeja : public QObject
 {
     Q_OBJECT
@@ -19,10 +20,10 @@ public:
     struct Estado
     {
         NivelDisco nivel = NivelDisco::ok;
-        QString libre;           ///< free space as text
+        QString linea;           ///< first line of the menu
+        QString texto;           ///< what the bar says beside the symbol; may be empty
         bool panelOscuro = true; ///< colour of the host's panel
-
-        bool operator==(const Estado &) const = default;
+        std::optional<EtiquetaBarra> etiqueta = std::nullopt; ///< where it is to be the picture
     };
 
     explicit Bandeja(QObject *parent = nullptr);
@@ -36,6 +37,7 @@ public:
 
     QMenu &menu() { return m_menu; }
     QString ayuda() const { return m_icono ? m_icono->toolTip() : QString(); }
+    QIcon imagen() const { return m_icono ? m_icono->icon() : QIcon(); }
 
 Q_SIGNALS:
     void pulsada();
@@ -45,12 +47,14 @@ Q_SIGNALS:
 
 private:
     void pintar();
+    void pintarImagen();
+    bool mismaImagen() const;
 
     QMenu m_menu;
-    QAction *m_lineaLibre = nullptr;
+    QAction *m_linea = nullptr;
     std::unique_ptr<QSystemTrayIcon> m_icono;
     Estado m_estado;
-    std::optional<Estado> m_pintado;
+    std::optional<Estado> m_pintado; ///< whose picture stands in the icon
 };
 
 } // namespace ovanta

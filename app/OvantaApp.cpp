@@ -3,7 +3,7 @@
 namespace ovanta {
 
 OvantaApp::OvantaApp(Plataforma &plataforma, QObject *parent)
-    : QObject(parent), m_plataforma(plataforma), m_disco(plataforma)
+    : QObject(parent), m_plataforma(plataforma), m_disco(plataforma), m_stats(plataforma)
 {
 }
 

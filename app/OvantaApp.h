@@ -2,6 +2,7 @@
 
 #include "app/NavegacionAplicacion.h"
 #include "monitors/DiskMonitor.h"
+#include "monitors/SystemStatsMonitor.h"
 #include "platform/Plataforma.h"
 
 #include <QObject>
@@ -24,11 +25,13 @@ public:
 
     DiskMonitor &disco() { return m_disco; }
     NavegacionAplicacion &navegacion() { return m_navegacion; }
+    SystemStatsMonitor &stats() { return m_stats; }
 
 private:
     Plataforma &m_plataforma;
     DiskMonitor m_disco;
     NavegacionAplicacion m_navegacion;
+    SystemStatsMonitor m_stats;
 };
 
 } // namespace ovanta

@@ -1,8 +1,10 @@
 #include "app/Residente.h"
 
+#include "app/SimboloNivel.h"
 #include "core/qt/Formato.h"
 #include "core/qt/HiloPrincipal.h"
 #include "core/qt/Texto.h"
+#include "monitors/FormatosCortos.h"
 
 namespace ovanta {
 
@@ -15,6 +17,11 @@ Residente::Residente(OvantaApp &app, QStringList bibliotecas)
     connect(&m_bandeja, &Bandeja::salirPedido, this, &Residente::salirPedido);
     connect(&m_app.disco(), &DiskMonitor::lecturaChanged, this, &Residente::actualizarBandeja);
     connect(&m_app.disco(), &DiskMonitor::nivelChanged, this, &Residente::actualizarBandeja);
+    connect(&m_app.disco(), &DiskMonitor::ajustesChanged, this, &Residente::actualizarBandeja);
+    connect(&m_app.stats(), &SystemStatsMonitor::ajustesChanged, this, &Residente::actualizarBandeja);
+    connect(&m_app.stats(), &SystemStatsMonitor::muestraChanged, this, [this] {
+        if (m_app.stats().algoEnBarra()) actualizarBandeja();
+    });
     m_app.plataforma().apariencia().alCambiar([this] { actualizarBandeja(); });
     m_app.plataforma().anfitrionBandeja().alCambiar([this] { seguirAnfitrion(); });
 }
@@ -54,12 +61,40 @@ void Residente::seguirAnfitrion()
 
 void Residente::actualizarBandeja()
 {
+    m_bandeja.actualizar(estadoDeBandeja());
+}
+
+Bandeja::Estado Residente::estadoDeBandeja() const
+{
     const Apariencia::Estado apariencia = m_app.plataforma().apariencia().actual();
+    Bandeja::Estado estado;
+    estado.nivel = m_app.disco().nivel();
     // GNOME's bar is dark whatever the windows are.
-    const bool barraOscura =
+    estado.panelOscuro =
         apariencia.oscuro || qEnvironmentVariable("XDG_CURRENT_DESKTOP").contains(QLatin1String("GNOME"));
-    m_bandeja.actualizar(
-        {m_app.disco().nivel(), Formato::delUsuario().bytes(m_app.disco().libre()), barraOscura});
+    if (m_app.stats().algoEnBarra()) {
+        const EtiquetaBarra conFiguras = etiqueta();
+        estado.linea = estado.texto = mostrar(conFiguras.texto());
+        if (m_app.plataforma().anfitrionBandeja().muestraAnchas()) estado.etiqueta = conFiguras;
+        return estado;
+    }
+    estado.linea = Formato::delUsuario().bytes(m_app.disco().libre()) + QStringLiteral(" libres");
+    if (m_app.disco().mostrarTextoEnBarra()) estado.texto = estado.linea;
+    return estado;
+}
+
+EtiquetaBarra Residente::etiqueta() const
+{
+    const DiskMonitor &disco = m_app.disco();
+    const SystemStatsMonitor &stats = m_app.stats();
+    EtiquetaBarra etiqueta;
+    etiqueta.simbolo = nombreDeSimbolo(disco.nivel());
+    if (disco.mostrarTextoEnBarra()) etiqueta.libre = formatearBytesCorto(disco.libre());
+    if (stats.barraCPU()) etiqueta.cpu = stats.cpu();
+    if (stats.barraRAM()) etiqueta.ram = stats.ram();
+    if (stats.barraRed()) etiqueta.red = stats.bajada() + stats.subida();
+    if (stats.barraCPU() && stats.barraGrafica()) etiqueta.grafica = stats.historialCPU();
+    return etiqueta;
 }
 
 } // namespace ovanta

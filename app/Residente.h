@@ -33,6 +33,8 @@ Q_SIGNALS:
 private:
     void seguirAnfitrion();
     void actualizarBandeja();
+    Bandeja::Estado estadoDeBandeja() const;
+    EtiquetaBarra etiqueta() const;
 
     OvantaApp &m_app;
     Bandeja m_bandeja;

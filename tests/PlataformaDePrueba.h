@@ -170,9 +170,11 @@ struct AparienciaDePrueba final : Apariencia
 struct AnfitrionDePrueba final : AnfitrionBandeja
 {
     bool hay = true;
+    bool anchas = false;
     std::vector<std::function<void()>> oyentes;
 
     bool presente() const override { return hay; }
+    bool muestraAnchas() const override { return anchas; }
     void alCambiar(std::function<void()> accion) override { oyentes.push_back(std::move(accion)); }
     void cambiar(bool nuevo)
     {

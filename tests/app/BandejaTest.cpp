@@ -3,6 +3,7 @@
 
 #include <QSignalSpy>
 #include <gtest/gtest.h>
+#include <set>
 
 using namespace ovanta;
 
@@ -34,10 +35,10 @@ int pintados(const QImage &imagen)
 
 } // namespace
 
-TEST(Bandeja, theMenuSaysTheFreeSpaceFirstAndItCannotBeChosen)
+TEST(Bandeja, theFirstLineOfTheMenuTellsAndCannotBeChosen)
 {
     Bandeja bandeja;
-    bandeja.actualizar({NivelDisco::ok, QStringLiteral("12,5 GB"), true});
+    bandeja.actualizar({NivelDisco::ok, QStringLiteral("12,5 GB libres"), {}, true});
     QAction *primera = bandeja.menu().actions().constFirst();
     EXPECT_EQ(primera->text(), QStringLiteral("12,5 GB libres"));
     EXPECT_FALSE(primera->isEnabled());
@@ -63,17 +64,58 @@ TEST(Bandeja, everyEntryOfTheMenuTellsWhatIsAskedFor)
     }
 }
 
-TEST(Bandeja, theTooltipFollowsTheFreeSpace)
+TEST(Bandeja, theTooltipSaysWhatTheBarSays)
 {
     Bandeja bandeja;
     bandeja.aparecer();
-    bandeja.actualizar({NivelDisco::ok, QStringLiteral("80 GB"), true});
+    EXPECT_EQ(bandeja.ayuda(), QStringLiteral("Ovanta"));
+    bandeja.actualizar({NivelDisco::ok, {}, QStringLiteral("80 GB libres"), true});
     EXPECT_EQ(bandeja.ayuda(), QStringLiteral("Ovanta · 80 GB libres"));
     bandeja.desaparecer();
     EXPECT_FALSE(bandeja.visible());
-    bandeja.actualizar({NivelDisco::ok, QStringLiteral("79 GB"), true});
+    bandeja.actualizar({NivelDisco::ok, {}, QStringLiteral("79 GB libres"), true});
     bandeja.aparecer();
     EXPECT_EQ(bandeja.ayuda(), QStringLiteral("Ovanta · 79 GB libres"));
+}
+
+TEST(Bandeja, theSymbolIsSetAnewOnlyWhenLevelOrPanelChange)
+{
+    Bandeja bandeja;
+    bandeja.aparecer();
+    std::set<qint64> imagenes;
+    const auto poner = [&](NivelDisco nivel, const char16_t *texto, bool oscuro) {
+        bandeja.actualizar({nivel, QString::fromUtf16(texto), QString::fromUtf16(texto), oscuro});
+        imagenes.insert(bandeja.imagen().cacheKey());
+        return imagenes.size();
+    };
+    EXPECT_EQ(poner(NivelDisco::ok, u"80 GB", true), 1);
+    for (const char16_t *texto : {u"79 GB", u"78 GB · CPU 4%", u"78 GB · CPU 5%", u""})
+        EXPECT_EQ(poner(NivelDisco::ok, texto, true), 1);
+    EXPECT_EQ(poner(NivelDisco::aviso, u"", true), 2);
+    EXPECT_EQ(poner(NivelDisco::aviso, u"", false), 3);
+    EXPECT_EQ(poner(NivelDisco::aviso, u"2 GB", false), 3);
+}
+
+TEST(Bandeja, theWholeLabelIsThePictureWhereItIsGivenAndChangesOnlyWhenItLooksDifferent)
+{
+    Bandeja bandeja;
+    bandeja.aparecer();
+    Bandeja::Estado estado;
+    estado.etiqueta = EtiquetaBarra{
+        .simbolo = "internaldrive", .libre = "80 GB", .cpu = 0.121, .ram = {}, .red = {}, .grafica = {}};
+    bandeja.actualizar(estado);
+    const qint64 primera = bandeja.imagen().cacheKey();
+    const QSize tamano = bandeja.imagen().availableSizes().constFirst();
+    EXPECT_GT(tamano.width(), 3 * tamano.height());
+    estado.etiqueta->cpu = 0.124;
+    bandeja.actualizar(estado);
+    EXPECT_EQ(bandeja.imagen().cacheKey(), primera);
+    estado.etiqueta->cpu = 0.2;
+    bandeja.actualizar(estado);
+    EXPECT_NE(bandeja.imagen().cacheKey(), primera);
+    estado.etiqueta.reset();
+    bandeja.actualizar(estado);
+    EXPECT_EQ(bandeja.imagen().availableSizes().constFirst(), QSize(16, 16)) << "the symbol again";
 }
 
 TEST(SimboloNivel, everyLevelHasAPictureOfItsOwnInBothColours)

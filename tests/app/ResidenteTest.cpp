@@ -1,5 +1,6 @@
 #include "app/Residente.h"
 #include "app/SenalesDeFin.h"
+#include "app/SimboloNivel.h"
 #include "tests/PlataformaDePrueba.h"
 
 #include <QSignalSpy>
@@ -84,6 +85,70 @@ TEST_F(ResidenteTest, theIconFollowsTheFreeSpace)
     plataforma.m_volumen.espacio->disponibles = 99'500'000'000;
     app.disco().medir();
     EXPECT_EQ(residente.bandeja().ayuda(), QStringLiteral("Ovanta · 99,5 GB libres"));
+}
+
+TEST_F(ResidenteTest, withFiguresTheTooltipAndTheMenuSayTheLabel)
+{
+    plataforma.m_volumen.espacio = Volumen::Espacio{1, 500'000'000'000, 120'000'000'000};
+    OvantaApp app(plataforma);
+    Residente residente(app, sinBiblioteca);
+    residente.empezar();
+    app.stats().fijarBarraCPU(true);
+    app.stats().fijarBarraRed(true);
+    EXPECT_EQ(residente.bandeja().ayuda(), QStringLiteral("Ovanta · 120 GB · CPU 0% · NET 0K"));
+    plataforma.m_contadores.ticks = Contadores::Ticks{.user = 25, .system = 0, .idle = 75, .nice = 0};
+    plataforma.m_contadores.bytes = {3'000'000, 200'000};
+    plataforma.m_reloj.avanzar(std::chrono::seconds{2});
+    EXPECT_EQ(residente.bandeja().ayuda(), QStringLiteral("Ovanta · 120 GB · CPU 25% · NET 1.6M"));
+    EXPECT_EQ(residente.bandeja().menu().actions().constFirst()->text(),
+              QStringLiteral("120 GB · CPU 25% · NET 1.6M"));
+    app.disco().fijarMostrarTextoEnBarra(false);
+    EXPECT_EQ(residente.bandeja().ayuda(), QStringLiteral("Ovanta · CPU 25% · NET 1.6M"));
+}
+
+TEST_F(ResidenteTest, withoutFiguresAndWithoutFreeSpaceThereIsOnlyTheLevelsSymbol)
+{
+    OvantaApp app(plataforma);
+    Residente residente(app, sinBiblioteca);
+    residente.empezar();
+    app.disco().fijarMostrarTextoEnBarra(false);
+    EXPECT_EQ(residente.bandeja().ayuda(), QStringLiteral("Ovanta"));
+    const auto simbolo = [](const QIcon &icono) { return icono.pixmap(32, 32).toImage(); };
+    EXPECT_EQ(simbolo(residente.bandeja().imagen()), simbolo(simboloDeNivel(app.disco().nivel(), false)));
+}
+
+TEST_F(ResidenteTest, aHostThatShowsWidePicturesGetsTheWholeLabel)
+{
+    plataforma.m_anfitrion.anchas = true;
+    OvantaApp app(plataforma);
+    Residente residente(app, sinBiblioteca);
+    residente.empezar();
+    const auto ancho = [&residente] {
+        const QSize tamano = residente.bandeja().imagen().availableSizes().constFirst();
+        return tamano.width() - tamano.height();
+    };
+    EXPECT_EQ(ancho(), 0) << "no figure is shown";
+    app.stats().fijarBarraRAM(true);
+    const int soloRAM = ancho();
+    EXPECT_GT(soloRAM, 30);
+    app.stats().fijarBarraRAM(false);
+    app.stats().fijarBarraCPU(true);
+    EXPECT_GT(ancho(), soloRAM) << "the graph comes with the processor";
+    app.stats().fijarBarraGrafica(false);
+    EXPECT_NEAR(ancho(), soloRAM, 4);
+}
+
+TEST_F(ResidenteTest, samplesDoNotTouchTheIconWhileNoFigureIsShown)
+{
+    OvantaApp app(plataforma);
+    Residente residente(app, sinBiblioteca);
+    residente.empezar();
+    const qint64 imagen = residente.bandeja().imagen().cacheKey();
+    const QString ayuda = residente.bandeja().ayuda();
+    plataforma.m_contadores.bytes = {5'000'000, 0};
+    plataforma.m_reloj.avanzar(std::chrono::seconds{50});
+    EXPECT_EQ(residente.bandeja().imagen().cacheKey(), imagen);
+    EXPECT_EQ(residente.bandeja().ayuda(), ayuda);
 }
 
 TEST(SenalesDeFin, theEndOfTheSessionBecomesASignalOfTheMainThread)
