@@ -37,7 +37,7 @@ private:
 };
 
 // Central European time with its two clock changes, spelt out so that no zone files are needed.
-constexpr const char *madrid = "CET-1CEST,M3.5.0,M10.5.0/3";
+constexpr const char *zonaDeMadrid = "CET-1CEST,M3.5.0,M10.5.0/3";
 
 std::string conRuta(const std::string &ruta)
 {
@@ -64,7 +64,7 @@ TEST(PapeleraInfo, anyBytesOfANameRoundTrip)
 
 TEST(PapeleraInfo, theDateIsLocalTimeAndAFractionIsCutOff)
 {
-    const EnZona madrid(madrid);
+    const EnZona madrid(zonaDeMadrid);
     const Fecha verano = segundo(1'782'000'000) + std::chrono::microseconds{999'999};
     const std::string texto = escribirInfo({.ruta = "/x", .fecha = verano});
     EXPECT_NE(texto.find("DeletionDate=2026-06-21T02:00:00\n"), std::string::npos) << texto;
@@ -80,7 +80,7 @@ TEST(PapeleraInfo, aYearOfFewDigitsIsPadded)
 
 TEST(PapeleraInfo, theHourThatAClockChangeRepeatsReadsAsTheLaterOne)
 {
-    const EnZona madrid(madrid);
+    const EnZona madrid(zonaDeMadrid);
     // 2026-10-25, 02:30 twice: first in summer time, an hour later in winter time.
     const auto primera = leerInfo(escribirInfo({.ruta = "/x", .fecha = segundo(1'792'888'200)}));
     EXPECT_EQ(primera->fecha, segundo(1'792'888'200 + 3600));
@@ -90,7 +90,7 @@ TEST(PapeleraInfo, theHourThatAClockChangeRepeatsReadsAsTheLaterOne)
 
 TEST(PapeleraInfo, anHourThatAClockChangeSkipsIsStillRead)
 {
-    const EnZona madrid(madrid);
+    const EnZona madrid(zonaDeMadrid);
     EXPECT_TRUE(leerInfo("[Trash Info]\nPath=/x\nDeletionDate=2026-03-29T02:30:00\n"));
 }
 

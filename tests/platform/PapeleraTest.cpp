@@ -220,11 +220,11 @@ TEST_F(PapeleraDeCasa, tenThousandItemsOfOneNameAllArrive)
 
 TEST_F(PapeleraDeCasa, threadsThatMoveItemsOfOneNameGetANameEach)
 {
-    constexpr int hilos = 4, cadaUno = 100;
+    constexpr int cuantosHilos = 4, cadaUno = 100;
     PapeleraLinux papelera = hacer();
     {
         std::vector<std::jthread> hilos;
-        for (int hilo = 0; hilo < hilos; ++hilo) {
+        for (int hilo = 0; hilo < cuantosHilos; ++hilo) {
             hilos.emplace_back([&, hilo] {
                 for (int i = 0; i < cadaUno; ++i) {
                     const std::string ruta = hogar + "/" + std::to_string(hilo) + "/x";
@@ -239,7 +239,7 @@ TEST_F(PapeleraDeCasa, threadsThatMoveItemsOfOneNameGetANameEach)
     const auto contenido = contenidoDe(suya);
     for (const auto &[nombre, info] : contenido.objetos)
         textos.insert(leer(suya + "/files/" + nombre));
-    EXPECT_EQ(textos.size(), static_cast<size_t>(hilos * cadaUno));
+    EXPECT_EQ(textos.size(), static_cast<size_t>(cuantosHilos * cadaUno));
     EXPECT_TRUE(contenido.sinInfo.empty() && contenido.infosSueltas.empty());
 }
 
