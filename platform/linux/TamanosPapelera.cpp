@@ -1,11 +1,11 @@
 #include "platform/linux/TamanosPapelera.h"
 
 #include "core/ErrorSistema.h"
+#include "core/EscrituraAtomica.h"
 #include "core/LeerArchivo.h"
 #include "core/Tamano.h"
 #include "platform/linux/InfoPapelera.h"
 #include "platform/linux/SinEnlaces.h"
-#include "platform/linux/Volcar.h"
 
 #include <fcntl.h>
 #include <stdio.h>
@@ -75,7 +75,7 @@ void reemplazar(int raiz, const std::string &texto, const AlPaso &alPaso)
         ::openat(raiz, aparte.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
     if (!nuevo.abierto()) lanzarErrno(errno);
     try {
-        volcar(nuevo.numero(), texto);
+        if (const int codigo = escribirTodo(nuevo.numero(), texto)) lanzarErrno(codigo);
         if (alPaso) alPaso(PasoPapelera::tamanoAparte);
         if (::renameat(raiz, aparte.c_str(), raiz, archivo) != 0) lanzarErrno(errno);
     } catch (const std::system_error &) {

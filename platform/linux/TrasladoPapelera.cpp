@@ -1,10 +1,10 @@
 #include "platform/linux/TrasladoPapelera.h"
 
 #include "core/ErrorSistema.h"
+#include "core/EscrituraAtomica.h"
 #include "platform/linux/InfoPapelera.h"
 #include "platform/linux/NombrePapelera.h"
 #include "platform/linux/SinEnlaces.h"
-#include "platform/linux/Volcar.h"
 
 #include <fcntl.h>
 #include <limits.h>
@@ -59,7 +59,7 @@ public:
         if (!m_info.abierto()) lanzarErrno(errno);
         try {
             avisar(alPaso, PasoPapelera::infoCreada);
-            volcar(m_info.numero(), info);
+            if (const int codigo = escribirTodo(m_info.numero(), info)) lanzarErrno(codigo);
             avisar(alPaso, PasoPapelera::infoEscrita);
         } catch (...) {
             retirar();

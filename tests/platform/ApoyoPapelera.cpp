@@ -1,7 +1,8 @@
 #include "tests/platform/ApoyoPapelera.h"
 
 #include "core/Descriptor.h"
-#include "platform/linux/Volcar.h"
+#include "core/ErrorSistema.h"
+#include "core/EscrituraAtomica.h"
 
 #include <fcntl.h>
 #include <sched.h>
@@ -51,7 +52,7 @@ bool aislarMontajes()
         const std::string usuario = std::to_string(::geteuid());
         if (::unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0) return false;
         const Descriptor usuarios(::open("/proc/self/uid_map", O_WRONLY | O_CLOEXEC));
-        volcar(usuarios.numero(), usuario + " " + usuario + " 1\n");
+        if (escribirTodo(usuarios.numero(), usuario + " " + usuario + " 1\n") != 0) return false;
     }
     return ::mount("none", "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0;
 }
@@ -106,7 +107,7 @@ void escribir(const std::string &ruta, const std::string &texto)
     fs::create_directories(fs::path(ruta).parent_path());
     const Descriptor archivo(::open(ruta.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644));
     if (!archivo.abierto()) throw std::runtime_error("cannot write " + ruta + ": " + std::strerror(errno));
-    volcar(archivo.numero(), texto);
+    if (const int codigo = escribirTodo(archivo.numero(), texto)) lanzarErrno(codigo);
 }
 
 std::string leer(const std::string &ruta)
@@ -141,7 +142,7 @@ FinDeHijo enHijo(const std::function<std::string()> &tarea)
         } catch (const std::exception &error) {
             queja = std::string("exception: ") + error.what();
         }
-        volcar(tubo[1], queja);
+        escribirTodo(tubo[1], queja);
         ::_exit(0);
     }
     const Descriptor lectura(tubo[0]);
@@ -188,7 +189,7 @@ std::string salidaDe(const std::vector<std::string> &orden, const std::string &h
 {
     int tubo[2], teclado[2];
     if (::pipe2(tubo, O_CLOEXEC) != 0 || ::pipe2(teclado, O_CLOEXEC) != 0) return "no pipe";
-    volcar(teclado[1], entrada);
+    escribirTodo(teclado[1], entrada);
     const pid_t hijo = ::fork();
     if (hijo == 0) {
         ::dup2(teclado[0], 0);

@@ -1,5 +1,5 @@
 #include "core/Descriptor.h"
-#include "platform/linux/Volcar.h"
+#include "core/EscrituraAtomica.h"
 #include "tests/platform/ApoyoPapelera.h"
 
 #include <fcntl.h>
@@ -90,7 +90,7 @@ protected:
             const Descriptor nuevo(
                 ::openat(m_carpeta.numero(), "nuevo", O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0600));
             ASSERT_TRUE(nuevo.abierto());
-            volcar(nuevo.numero(), texto);
+            ASSERT_EQ(escribirTodo(nuevo.numero(), texto), 0);
         }
         if (::renameat2(m_carpeta.numero(), "nuevo", m_carpeta.numero(), "x", RENAME_NOREPLACE) == 0)
             m_creados.insert(texto);
