@@ -8,6 +8,13 @@
 
 namespace ovanta {
 
+namespace {
+
+/// At login the tray may come up after us: how long before the window opens in its stead.
+constexpr std::chrono::seconds esperaAnfitrion{20};
+
+} // namespace
+
 Residente::Residente(OvantaApp &app, QStringList bibliotecas)
     : m_app(app), m_cargador(app, std::move(bibliotecas))
 {
@@ -33,7 +40,13 @@ bool Residente::empezar()
     if (!instancia.adquirir([this] { abrirVentana(); })) return false;
     seguirAnfitrion();
     actualizarBandeja();
-    if (!instancia.iniciadaPorLaSesion() || !m_bandeja.visible()) abrirVentana();
+    if (!instancia.iniciadaPorLaSesion()) {
+        abrirVentana();
+    } else {
+        m_esperaAnfitrion = m_app.plataforma().reloj().unaVez(esperaAnfitrion, [this] {
+            if (!m_bandeja.visible()) abrirVentana();
+        });
+    }
     return true;
 }
 

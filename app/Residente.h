@@ -39,6 +39,7 @@ private:
     OvantaApp &m_app;
     Bandeja m_bandeja;
     CargadorInterfaz m_cargador;
+    std::unique_ptr<Reloj::Temporizador> m_esperaAnfitrion;
 };
 
 } // namespace ovanta

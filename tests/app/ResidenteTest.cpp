@@ -52,14 +52,29 @@ TEST_F(ResidenteTest, startedByTheSessionItOpensNoWindowUntilItIsAsked)
     EXPECT_EQ(plataforma.m_dialogo.mostrados.size(), 1U);
 }
 
-TEST_F(ResidenteTest, withoutATrayTheWindowOpensEvenWhenTheSessionStartedIt)
+TEST_F(ResidenteTest, whereNoTrayComesUpTheWindowOpensEvenWhenTheSessionStartedIt)
 {
     plataforma.m_instancia.silenciosa = true;
     plataforma.m_anfitrion.hay = false;
     OvantaApp app(plataforma);
     Residente residente(app, sinBiblioteca);
     EXPECT_TRUE(residente.empezar());
+    plataforma.m_reloj.avanzar(std::chrono::seconds{19});
+    EXPECT_TRUE(plataforma.m_dialogo.mostrados.empty());
+    plataforma.m_reloj.avanzar(std::chrono::seconds{2});
     EXPECT_EQ(plataforma.m_dialogo.mostrados.size(), 1U);
+}
+
+TEST_F(ResidenteTest, aTrayThatComesUpLateKeepsTheWindowClosed)
+{
+    plataforma.m_instancia.silenciosa = true;
+    plataforma.m_anfitrion.hay = false;
+    OvantaApp app(plataforma);
+    Residente residente(app, sinBiblioteca);
+    EXPECT_TRUE(residente.empezar());
+    plataforma.m_anfitrion.cambiar(true);
+    plataforma.m_reloj.avanzar(std::chrono::seconds{60});
+    EXPECT_TRUE(plataforma.m_dialogo.mostrados.empty());
 }
 
 TEST_F(ResidenteTest, theIconComesAndGoesWithTheTrayHost)
