@@ -1,6 +1,8 @@
 #pragma once
 
 #include "app/NavegacionAplicacion.h"
+#include "core/Cleaner.h"
+#include "core/RuleStore.h"
 #include "monitors/DiskMonitor.h"
 #include "monitors/SystemStatsMonitor.h"
 #include "platform/Plataforma.h"
@@ -24,12 +26,16 @@ public:
     Plataforma &plataforma() { return m_plataforma; }
 
     DiskMonitor &disco() { return m_disco; }
+    RuleStore &reglas() { return m_reglas; }
+    Cleaner &limpiador() { return m_limpiador; }
     NavegacionAplicacion &navegacion() { return m_navegacion; }
     SystemStatsMonitor &stats() { return m_stats; }
 
 private:
     Plataforma &m_plataforma;
     DiskMonitor m_disco;
+    RuleStore m_reglas;
+    Cleaner m_limpiador;
     NavegacionAplicacion m_navegacion;
     SystemStatsMonitor m_stats;
 };

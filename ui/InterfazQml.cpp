@@ -7,9 +7,9 @@
 
 namespace ovanta {
 
-InterfazQml::InterfazQml(OvantaApp &app) : m_app(app)
+InterfazQml::InterfazQml(OvantaApp &app) : m_aspecto(app.plataforma().apariencia())
 {
-    Ovanta::usar(&app);
+    Ovanta::usar(&app, &m_aspecto);
 }
 
 InterfazQml::~InterfazQml() = default;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Interfaz.h"
+#include "ui/componentes/Aspecto.h"
 
 #include <memory>
 
@@ -27,7 +28,7 @@ protected:
 private:
     void cerrar();
 
-    OvantaApp &m_app;
+    Aspecto m_aspecto;
     std::unique_ptr<QQmlApplicationEngine> m_motor;
     QQuickWindow *m_ventana = nullptr;
     bool m_minimizar = false;

@@ -3,18 +3,25 @@
 namespace ovanta {
 
 namespace {
-OvantaApp *enUso = nullptr;
-}
+OvantaApp *appEnUso = nullptr;
+Aspecto *aspectoEnUso = nullptr;
+} // namespace
 
-void Ovanta::usar(OvantaApp *app)
+void Ovanta::usar(OvantaApp *app, Aspecto *aspecto)
 {
-    enUso = app;
+    appEnUso = app;
+    aspectoEnUso = aspecto;
 }
 
 OvantaApp &Ovanta::app()
 {
-    Q_ASSERT(enUso);
-    return *enUso;
+    Q_ASSERT(appEnUso);
+    return *appEnUso;
+}
+
+Aspecto *Ovanta::aspecto() const
+{
+    return aspectoEnUso;
 }
 
 Ovanta *Ovanta::create(QQmlEngine *, QJSEngine *)

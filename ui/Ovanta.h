@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/OvantaApp.h"
+#include "ui/componentes/Aspecto.h"
 
 #include <QObject>
 #include <QtQml/qqml.h>
@@ -18,20 +19,24 @@ struct NavegacionAplicacionQml
     QML_UNCREATABLE("made by the application")
 };
 
-/// The stores as QML sees them: `Ovanta.navegacion.seleccion`.
+/// What every screen shares: `Ovanta.navegacion.seleccion`, `Ovanta.aspecto.colores`. The stores reach
+/// QML through the state class of each screen.
 class Ovanta : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     QML_SINGLETON
     Q_PROPERTY(ovanta::NavegacionAplicacion *navegacion READ navegacion CONSTANT)
+    Q_PROPERTY(ovanta::Aspecto *aspecto READ aspecto CONSTANT)
 public:
-    /// The application whose stores are shown; to be called before an engine exists.
-    static void usar(OvantaApp *app);
+    /// The application whose stores are shown and the look they are shown in; to be called before an
+    /// engine exists. Both must outlive the engine.
+    static void usar(OvantaApp *app, Aspecto *aspecto);
     static OvantaApp &app();
     static Ovanta *create(QQmlEngine *, QJSEngine *);
 
     NavegacionAplicacion *navegacion() const { return &app().navegacion(); }
+    Aspecto *aspecto() const;
 };
 
 } // namespace ovanta

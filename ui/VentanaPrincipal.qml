@@ -1,10 +1,19 @@
 import QtQuick
+import QtQuick.Window
 import Ovanta
 
 Window {
+    id: ventana
     title: "Ovanta"
     width: 1000
     height: 700
+    minimumWidth: 900
+    minimumHeight: 660
     visible: true
-    Text { anchors.centerIn: parent; text: Ovanta.navegacion.seleccion }
+    color: Tema.colores.fondo
+
+    MainView {
+        anchors.fill: parent
+        onCerrar: ventana.close()
+    }
 }

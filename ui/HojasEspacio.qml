@@ -1,0 +1,26 @@
+import QtQuick
+import Ovanta
+
+/// The sheets of the caches screen.
+Item {
+    id: raiz
+    required property SpaceViewEstado estado
+
+    DetalleRegla {
+        visible: raiz.estado.muestraDetalle
+        detalle: raiz.estado.detalle
+        onClosed: raiz.estado.cerrarPresentacion()
+    }
+    SimulacionLimpiezaView {
+        visible: raiz.estado.muestraSimulacion
+        simulados: raiz.estado.simulados
+        total: raiz.estado.totalSimulado
+        onClosed: raiz.estado.cerrarPresentacion()
+    }
+    ConfirmacionMover {
+        visible: raiz.estado.confirmando
+        titulo: raiz.estado.tituloConfirmacion
+        onConfirmada: raiz.estado.confirmar()
+        onClosed: raiz.estado.cancelar()
+    }
+}

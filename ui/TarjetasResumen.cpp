@@ -1,0 +1,138 @@
+#include "ui/TarjetasResumen.h"
+
+#include "core/Tamano.h"
+#include "core/qt/Formato.h"
+#include "core/qt/Texto.h"
+#include "ui/Riesgo.h"
+
+#include <cmath>
+
+namespace ovanta {
+
+namespace {
+
+const QString sinAnalizar = QStringLiteral("Sin analizar todavía");
+
+QString bytes(std::uint64_t cuantos)
+{
+    return Formato::delUsuario().bytes(cuantos);
+}
+
+QString numero(std::uint64_t cuantos)
+{
+    return Formato::delUsuario().entero(cuantos);
+}
+
+TarjetaResumen tarjeta(Seccion seccion, const QString &titulo, const QString &simbolo, Tinte tinte,
+                       std::string_view risk)
+{
+    const Riesgo riesgo = riesgoVisible(risk);
+    return {.clave = titulo,
+            .seccion = mostrar(ficha(seccion).clave),
+            .titulo = titulo,
+            .simbolo = simbolo,
+            .tinte = tinte,
+            .cifra = {},
+            .detalle = {},
+            .insignia = riesgo.texto,
+            .tinteInsignia = riesgo.tinte};
+}
+
+TarjetaResumen deCaches(const EntradasResumen &e)
+{
+    auto t = tarjeta(Seccion::espacio, QStringLiteral("Cachés regenerables"), QStringLiteral("shippingbox"),
+                     Tinte::Azul, "safe");
+    t.cifra = bytes(e.bytesReglas);
+    t.detalle = QStringLiteral("Se recrean solas al usar las herramientas");
+    return t;
+}
+
+TarjetaResumen deDuplicados(const EntradasResumen &e)
+{
+    auto t = tarjeta(Seccion::duplicados, QStringLiteral("Duplicados · tamaño lógico"),
+                     QStringLiteral("doc.on.doc"), Tinte::Rosa, "review");
+    t.cifra = bytes(e.bytesDuplicados);
+    t.detalle =
+        e.gruposDuplicados == 0
+            ? sinAnalizar
+            : numero(e.gruposDuplicados) + QStringLiteral(" grupos · clones APFS pueden compartir bloques");
+    return t;
+}
+
+TarjetaResumen deDependencias(const EntradasResumen &e)
+{
+    auto t = tarjeta(Seccion::pesados, QStringLiteral("Dependencias"), QStringLiteral("shippingbox.fill"),
+                     Tinte::Turquesa, "review");
+    t.cifra = bytes(e.bytesCarpetas);
+    t.detalle =
+        e.carpetas == 0 ? sinAnalizar : numero(e.carpetas) + QStringLiteral(" carpetas reinstalables");
+    return t;
+}
+
+TarjetaResumen deSimuladores(const EntradasResumen &e)
+{
+    auto t =
+        tarjeta(Seccion::simuladores, QStringLiteral("Simuladores nuevos"), QStringLiteral("iphone.gen3"),
+                e.simuladoresNuevos > 0 ? Tinte::Naranja : Tinte::Secundario, "review");
+    t.cifra = bytes(e.bytesNuevos);
+    t.detalle = QStringLiteral("%1 de %2, creados en ≤%3 días")
+                    .arg(numero(e.simuladoresNuevos), numero(e.simuladores))
+                    .arg(e.diasNuevo);
+    return t;
+}
+
+TarjetaResumen deMemoria(const EntradasResumen &e)
+{
+    using Memoria = EntradasResumen::Memoria;
+    const bool normal = e.memoria == Memoria::normal;
+    const bool tension = e.memoria == Memoria::tension;
+    auto t = tarjeta(Seccion::memoria, QStringLiteral("Memoria"), QStringLiteral("memorychip"),
+                     normal    ? Tinte::Verde
+                     : tension ? Tinte::Naranja
+                               : Tinte::Rojo,
+                     "manual");
+    t.cifra = QString::number(std::lround(e.presion * 100)) + QStringLiteral(" %");
+    t.detalle = (normal    ? QStringLiteral("Presión normal")
+                 : tension ? QStringLiteral("Presión alta")
+                           : QStringLiteral("Presión crítica")) +
+                QStringLiteral(" · swap ") + Formato::delUsuario().bytes(e.swapUsado, EstiloBytes::memoria);
+    return t;
+}
+
+TarjetaResumen deDescargas(const EntradasResumen &e)
+{
+    auto t = tarjeta(Seccion::pesados, QStringLiteral("Descargas viejas"),
+                     QStringLiteral("arrow.down.circle"), Tinte::Indigo, "manual");
+    t.cifra = bytes(e.bytesDescargas);
+    t.detalle = QStringLiteral("%1 sin tocar en %2 días").arg(numero(e.descargas)).arg(e.diasDescargas);
+    return t;
+}
+
+} // namespace
+
+EntradasResumen leerEntradas(OvantaApp &app)
+{
+    EntradasResumen entradas;
+    entradas.bytesReglas = app.reglas().bytesRecuperables();
+    entradas.midiendoReglas = app.reglas().midiendo();
+    return entradas;
+}
+
+bool midiendoAlgo(const EntradasResumen &entradas)
+{
+    return entradas.midiendoReglas || entradas.cargandoSimuladores || entradas.escaneando;
+}
+
+std::uint64_t bytesRecuperables(const EntradasResumen &entradas)
+{
+    return sumar(sumar(entradas.bytesReglas, entradas.bytesDuplicados),
+                 sumar(entradas.bytesCarpetas, entradas.bytesNuevos));
+}
+
+std::vector<TarjetaResumen> tarjetasResumen(const EntradasResumen &entradas)
+{
+    return {deCaches(entradas),      deDuplicados(entradas), deDependencias(entradas),
+            deSimuladores(entradas), deMemoria(entradas),    deDescargas(entradas)};
+}
+
+} // namespace ovanta
