@@ -12,7 +12,7 @@ namespace ovanta {
 double escalaDePantalla();
 
 /// Draws a label in its natural size: a template in black on nothing, for the bar to colour. Nothing
-/// where there is no memory for it.
+/// where no picture of that size can be made.
 std::optional<QImage> imagenBarra(const EtiquetaBarra &etiqueta, double escala = escalaDePantalla());
 
 /// A template in one colour.

@@ -202,11 +202,9 @@ TEST(ImagenBarra, theFreeSpaceFollowsTheSymbol)
     EXPECT_GT(tinta(imagen, {20, 0, imagen.width() - 20, imagen.height()}), 60);
 }
 
-TEST(ImagenBarra, aSizeThatNoMemoryHoldsGivesNoImage)
+TEST(ImagenBarra, aLabelWithoutAnyPixelGivesNoImage)
 {
-    EtiquetaBarra etiqueta = soloSimbolo();
-    EXPECT_FALSE(imagenBarra(etiqueta, 1e6));
-    EXPECT_FALSE(imagenBarra(etiqueta, 0));
+    EXPECT_FALSE(imagenBarra(conTres(), 0));
 }
 
 TEST(ImagenBarra, tintingChangesTheColourAndNotTheShape)
