@@ -7,7 +7,9 @@ import subprocess
 def _correr(orden, casa, **otros):
     entorno = {**os.environ, "HOME": casa, "TRASH_VOLUMES": casa}
     entorno.pop("XDG_DATA_HOME", None)
-    return subprocess.run(orden, env=entorno, check=True, capture_output=True, text=True, timeout=60, **otros)
+    hecho = subprocess.run(orden, env=entorno, capture_output=True, text=True, timeout=60, **otros)
+    assert hecho.returncode == 0, f"{orden} dio {hecho.returncode}:\n{hecho.stdout}{hecho.stderr}"
+    return hecho
 
 
 def listar(casa):
@@ -17,5 +19,5 @@ def listar(casa):
 
 
 def restaurar_todo(casa):
-    ultimo = len(listar(casa)) - 1
-    _correr(["trash-restore", casa], casa, cwd=casa, input=f"0-{ultimo}\n")
+    for _ in listar(casa):
+        _correr(["trash-restore", casa], casa, cwd=casa, input="0\n")

@@ -13,7 +13,7 @@ from escritorio import Escritorio
 from pantalla import capturar
 from programa import Casa, Programa
 
-PROGRAMAS = os.environ.get("OVANTA_BIN", "")
+PROGRAMAS = os.path.abspath(os.environ.get("OVANTA_BIN", "build/release/bin"))
 _comun = None
 
 

@@ -12,11 +12,26 @@ from programa import Casa
 from prueba import PruebaDeEscritorio
 from ventanas import abiertas, esperar_abierta, esperar_ninguna, pedir_cierre
 
-LENTO = "#!/bin/sh\ntrap '' TERM\nsleep 1000 &\nwait\nsleep 1000\n"
+# A tool that never ends, nor does its child, and that writes down who they are.
+LENTO = """#!/bin/sh
+trap '' TERM
+sleep 1000 &
+echo $$ $! > "{lista}"
+wait
+sleep 1000
+"""
 
 
 def hay_espacios_de_montaje():
     return subprocess.run(["unshare", "--mount", "true"], capture_output=True).returncode == 0
+
+
+def leer_numeros(archivo):
+    try:
+        with open(archivo) as texto:
+            return texto.read().split()
+    except FileNotFoundError:
+        return []
 
 
 class UnaSolaInstancia(PruebaDeEscritorio):
@@ -104,32 +119,15 @@ class ElFinal(PruebaDeEscritorio):
         prefijo = self.enterContext(Casa())
         binario = instalar(prefijo.ruta, [regla("lenta", "~/.cache/lenta")])
         self.casa.escribir(".cache/lenta/a.bin", "x")
-        du = prefijo.escribir("du-lento", LENTO, 0o755)
+        lista = prefijo.en("lista")
+        du = prefijo.escribir("du-lento", LENTO.format(lista=lista), 0o755)
         programa = self.iniciar("/usr/bin/unshare", argumentos=[
             "--mount", "sh", "-c", f'mount --bind "{du}" /usr/bin/du && exec "{binario}"'])
         programa.ventana().esperar("Cachés", FILA).pulsar()
-        self.esperar_hijos(programa)
+        colgados = esperar(lambda: leer_numeros(lista), "que corra du")
         self.assertLess(self.salir_sin_quejas(programa), 5.0, "no espera a la herramienta")
-        esperar(lambda: not self.procesos_de(du), "que muera la herramienta con sus hijos")
-
-    def esperar_hijos(self, programa):
-        def hijos():
-            with open(f"/proc/{programa.proceso.pid}/task/{programa.proceso.pid}/children") as archivo:
-                return archivo.read().split()
-        return esperar(hijos, "que corra du")
-
-    @staticmethod
-    def procesos_de(texto):
-        """The processes whose command line names this text."""
-        hallados = []
-        for numero in filter(str.isdigit, os.listdir("/proc")):
-            try:
-                with open(f"/proc/{numero}/cmdline", "rb") as archivo:
-                    if texto.encode() in archivo.read():
-                        hallados.append(int(numero))
-            except OSError:
-                continue
-        return hallados
+        esperar(lambda: not any(os.path.exists(f"/proc/{numero}") for numero in colgados),
+                "que mueran la herramienta y su hijo")
 
     def test_la_senal_de_la_sesion_termina_bien_el_programa(self):
         programa = self.iniciar()
@@ -163,7 +161,7 @@ class HogaresRaros(PruebaDeEscritorio):
     @unittest.skipUnless(os.getuid() == 0, "hace falta ser root para correr como un usuario sin carpeta")
     def test_sin_definir_y_sin_carpeta_en_el_sistema_deja_abrir_y_salir(self):
         carpeta = self.enterContext(Casa())
-        os.chmod(carpeta.ruta, 0o777)
+        os.chown(carpeta.ruta, 65534, 65534)
         programa = self.iniciar(instalar(carpeta.en("programa"), []), usuario=65534, HOME=None,
                                 XDG_RUNTIME_DIR=carpeta.ruta, DBUS_SESSION_BUS_ADDRESS="disabled:")
         esperar_abierta(self.escritorio)

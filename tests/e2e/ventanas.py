@@ -34,5 +34,5 @@ def pedir_cierre(escritorio, numero):
     mensaje = event.ClientMessage(window=ventana, client_type=atomo("WM_PROTOCOLS"),
                                   data=(32, [atomo("WM_DELETE_WINDOW"), X.CurrentTime, 0, 0, 0]))
     ventana.send_event(mensaje)
-    pantalla.flush()
+    pantalla.sync()
     pantalla.close()
