@@ -19,8 +19,8 @@ PISOS = {
     **{carpeta: {"core", "core/qt", "platform"} for carpeta in ANALISIS},
     "automation": {"core", "core/qt", "platform", "monitors"},
     "app": {"core", "core/qt", "platform", *ANALISIS, "automation"},
-    "ui": {"core", "core/qt", "platform", *ANALISIS, "automation", "app"},
-    "ui/componentes": {"core", "core/qt", "platform", "app", "ui"},
+    "ui": {"core", "core/qt", "platform", *ANALISIS, "automation", "app", "ui/componentes"},
+    "ui/componentes": {"core", "core/qt", "platform"},
 }
 
 # A shared record of one subsystem that another one's domain is about.
