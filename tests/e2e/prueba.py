@@ -49,7 +49,7 @@ class PruebaDeEscritorio(unittest.TestCase):
         if not any(error for _, error in self._outcome.result.failures + self._outcome.result.errors
                    if _ is self):
             return
-        carpeta = os.path.join(os.environ.get("OVANTA_E2E", "/tmp/ovanta-e2e"), self.id())
+        carpeta = os.path.join(os.environ.get("OVANTA_E2E", "build/e2e"), self.id())
         os.makedirs(carpeta, exist_ok=True)
         capturar(self.escritorio, os.path.join(carpeta, "pantalla.png"))
         shutil.copytree(self.escritorio.registros, carpeta, dirs_exist_ok=True)
