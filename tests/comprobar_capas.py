@@ -20,7 +20,7 @@ PISOS = {
     "automation": {"core", "core/qt", "platform", "monitors"},
     "app": {"core", "core/qt", "platform", *ANALISIS, "automation"},
     "ui": {"core", "core/qt", "platform", *ANALISIS, "automation", "app", "ui/componentes"},
-    "ui/componentes": {"core", "core/qt", "platform"},
+    "ui/componentes": {"core", "core/qt", "platform", "app"},
 }
 
 # A shared record of one subsystem that another one's domain is about.
