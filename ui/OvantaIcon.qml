@@ -17,6 +17,7 @@ Item {
         sourceSize.width: width
         sourceSize.height: height
         fillMode: Image.PreserveAspectFit
+        cache: false
     }
     Symbol {
         anchors.centerIn: parent
