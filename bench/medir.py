@@ -132,12 +132,16 @@ def medir_ejecutar(_, binarios):
 
 def medir_seguridad(_, binarios):
     datos = banco(binarios, "validar")
-    print(json.dumps(datos))
+    for clave, nombre in (("validar_existente", "validar una ruta que existe, frente a realpath"),
+                          ("validar_inexistente", "validar una ruta que no existe"),
+                          ("analisis", "proteger del análisis")):
+        linea(nombre, datos[clave + "_us"], datos[clave + "_realpath_us"], "µs")
 
 
 def medir_papelera(_, binarios):
     datos = banco(binarios, "papelera")
-    print(json.dumps(datos))
+    linea("mover a la Papelera frente a gio trash", datos["papelera_us"], datos["gio_us"], "µs")
+    linea("mover a la Papelera frente a trash-put", datos["papelera_us"], datos["trash_put_us"], "µs")
 
 
 def main():

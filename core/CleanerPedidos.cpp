@@ -18,7 +18,11 @@ std::function<Papelera::Medida()> validarYMedir(const Puerta &puerta, const std:
 {
     return [puerta, ruta] {
         const std::string validada = puerta.seguridad->validar(ruta);
-        return medirDentro(*puerta.papelera, validada, puerta.seguridad->hogar());
+        auto medida = medirDentro(*puerta.papelera, validada, puerta.seguridad->hogar());
+        // A link on the way may lead, inside home, to a protected place: where the item really lies
+        // has to pass the gate as well.
+        puerta.seguridad->validar(medida.rutaReal());
+        return medida;
     };
 }
 
