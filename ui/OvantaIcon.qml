@@ -10,14 +10,9 @@ Item {
     implicitHeight: 42
     Accessible.role: Accessible.Graphic
     Accessible.name: "Ovanta de Belmora"
-    Image {
+    ImagenVectorial {
         anchors.fill: parent
-        visible: raiz.imagen != ""
-        source: raiz.imagen
-        sourceSize.width: width
-        sourceSize.height: height
-        fillMode: Image.PreserveAspectFit
-        cache: false
+        fuente: raiz.imagen
     }
     Symbol {
         anchors.centerIn: parent
