@@ -2,6 +2,7 @@
 
 #include "core/Enlaces.h"
 #include "core/LeerArchivo.h"
+#include "core/Recursos.h"
 #include "core/Rutas.h"
 #include "platform/linux/CarpetasXdg.h"
 
@@ -81,7 +82,7 @@ Lugares lugaresLinux(const EntornoLugares &entorno)
     Lugares lugares;
     lugares.hogar = hogarDe(entorno.home);
     lugares.protegidas = protegidasDe(entorno, lugares.hogar);
-    lugares.recursos = estandarizar(entorno.carpetaPrograma + "/../share/ovanta");
+    lugares.recursos = carpetaRecursos(entorno.carpetaPrograma);
     lugares.catalogo = lugares.recursos + "/linux/rules.json";
     return lugares;
 }
