@@ -16,14 +16,21 @@ Item {
     required property bool existe
     required property bool marcable
     required property bool marcada
+    readonly property bool abreGrupo: ListView.section !== ListView.previousSection
 
-    height: 76
+    height: 76 + cabeza.height
     Accessible.role: Accessible.ListItem
     Accessible.name: nombre
     Keys.onSpacePressed: raiz.estado.marcar(raiz.clave, !raiz.marcada)
 
+    TituloGrupo {
+        id: cabeza
+        width: parent.width
+        titulo: raiz.ListView.section
+        mostrado: raiz.abreGrupo
+    }
     Rectangle {
-        anchors { fill: parent; topMargin: 3; bottomMargin: 3 }
+        anchors { fill: parent; topMargin: cabeza.height + 3; bottomMargin: 3 }
         radius: Tema.radioTarjeta - 2
         color: Tema.colores.superficie
         border.width: raiz.marcada ? 2 : 1
@@ -35,7 +42,7 @@ Item {
         }
     }
     RowLayout {
-        anchors { fill: parent; leftMargin: Tema.espacio4; rightMargin: Tema.espacio3 }
+        anchors { fill: parent; topMargin: cabeza.height; leftMargin: Tema.espacio4; rightMargin: Tema.espacio3 }
         spacing: Tema.espacio3
         Interruptor {
             nombre: raiz.nombre

@@ -9,17 +9,24 @@ Item {
     required property string icono
     property bool conFoco
     readonly property bool actual: ListView.isCurrentItem
+    readonly property bool abreGrupo: ListView.section !== ListView.previousSection
     signal elegida
 
-    height: 31
+    height: 31 + cabeza.height
     Accessible.role: Accessible.ListItem
     Accessible.name: titulo
     Accessible.selectable: true
     Accessible.selected: actual
     Accessible.onPressAction: raiz.elegida()
 
+    GrupoLateral {
+        id: cabeza
+        width: parent.width
+        titulo: raiz.ListView.section
+        mostrado: raiz.abreGrupo
+    }
     Rectangle {
-        anchors { fill: parent; leftMargin: Tema.espacio2 + 2; rightMargin: Tema.espacio2 + 3; topMargin: 1; bottomMargin: 1 }
+        anchors { fill: parent; leftMargin: Tema.espacio2 + 2; rightMargin: Tema.espacio2 + 3; topMargin: cabeza.height + 1; bottomMargin: 1 }
         radius: Tema.radioControl
         color: raiz.actual ? Tema.colores.acento : zona.pressed ? Tema.colores.pulsado
              : zona.containsMouse ? Tema.colores.realce : "transparent"
@@ -42,7 +49,7 @@ Item {
     }
     MouseArea {
         id: zona
-        anchors.fill: parent
+        anchors { fill: parent; topMargin: cabeza.height }
         hoverEnabled: true
         onClicked: raiz.elegida()
     }

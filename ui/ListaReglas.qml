@@ -6,7 +6,7 @@ Item {
     id: raiz
     required property SpaceViewEstado estado
 
-    ListaAgrupada {
+    ListaVirtual {
         anchors { fill: parent; leftMargin: Tema.margen; rightMargin: Tema.margen / 2 }
         visible: !raiz.estado.vacio
         model: raiz.estado.filas

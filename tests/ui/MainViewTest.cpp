@@ -39,6 +39,17 @@ TEST_F(MainView, theSidebarShowsTheBrandTheSectionsAndTheDisk)
         EXPECT_NE(objeto(QAccessible::ListItem, mostrar(f.titulo)), nullptr) << f.titulo;
 }
 
+TEST_F(MainView, theHeadsOfTheGroupsAreRightAfterTheWindowShrankAndGrew)
+{
+    abrir();
+    for (const int alto : {220, 700, 320, 1100, 260, 700}) {
+        ventana()->resize(1000, alto);
+        reposar();
+    }
+    for (const char *grupo : {"Disco", "Sistema", "Registro"})
+        EXPECT_TRUE(seVe(QString::fromUtf8(grupo))) << grupo;
+}
+
 TEST_F(MainView, pressingARowOpensItsSection)
 {
     abrir();

@@ -4,13 +4,14 @@ import Ovanta
 /// The head of a group inside a list.
 Item {
     id: raiz
-    required property string section
+    required property string titulo
+    property bool mostrado: true
 
-    width: ListView.view.width
-    height: 38
+    height: mostrado ? 38 : 0
+    visible: mostrado
     Texto {
         anchors { left: parent.left; leftMargin: 2; bottom: parent.bottom; bottomMargin: 7 }
-        text: raiz.section
+        text: raiz.titulo
         font.pixelSize: Tema.letraCuerpo - 1
         font.weight: Font.DemiBold
         color: Tema.colores.secundario
