@@ -8,5 +8,7 @@ int bancoEjecutar(int argc, char **argv);
 int bancoValidar(int argc, char **argv);
 int bancoPapelera(int argc, char **argv);
 int bancoMuestra(int argc, char **argv);
+int bancoDups(int argc, char **argv);
+int bancoWalk(int argc, char **argv);
 
 } // namespace ovanta

@@ -21,6 +21,8 @@ public:
 
     int numero() const noexcept { return m_numero; }
     bool abierto() const noexcept { return m_numero >= 0; }
+    /// Gives the descriptor away: somebody else closes it.
+    int soltar() noexcept { return std::exchange(m_numero, -1); }
     void cerrar() noexcept
     {
         if (abierto()) ::close(std::exchange(m_numero, -1));

@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/AccesoArchivos.h"
+
+namespace ovanta {
+
+class AccesoArchivosLinux final : public AccesoArchivos
+{
+public:
+    int abrir(const char *ruta) override;
+    ssize_t leer(int descriptor, void *destino, std::size_t bytes) override;
+    void anticipar(int descriptor, std::uint64_t bytes) override;
+    bool esVirtual(int carpeta) override;
+    /// Linux marks no such files.
+    bool estaEnLaNube(const struct stat &) override { return false; }
+};
+
+} // namespace ovanta

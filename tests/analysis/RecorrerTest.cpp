@@ -1,0 +1,208 @@
+#include "analysis/Recorrer.h"
+
+#include "core/Seguridad.h"
+#include "tests/analysis/ArbolDeArchivos.h"
+
+#include <gmock/gmock.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+
+namespace ovanta::pruebas {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using Rutas = std::vector<std::string>;
+
+TEST(Recorrer, UnArchivoDelMinimoEsCandidatoYUnByteMenosNo)
+{
+    const ArbolDeArchivos arbol;
+    arbol.escribir("justo", std::string(100, 'x'));
+    arbol.escribir("corto", std::string(99, 'x'));
+    EXPECT_THAT(relativas(arbol.archivos(100), arbol.raiz()), ElementsAre("justo"));
+}
+
+TEST(Recorrer, NiSigueNiListaEnlaces)
+{
+    const ArbolDeArchivos arbol;
+    arbol.escribir("real/archivo", "uno");
+    HogarTemporal::enlace(arbol.en("a carpeta"), arbol.en("real"));
+    HogarTemporal::enlace(arbol.en("a archivo"), arbol.en("real/archivo"));
+    HogarTemporal::enlace(arbol.en("real/bucle"), arbol.raiz());
+    EXPECT_THAT(relativas(arbol.archivos(), arbol.raiz()), ElementsAre("real/archivo"));
+}
+
+TEST(Recorrer, UnaRaizQueEsUnEnlaceSeSigue)
+{
+    const ArbolDeArchivos arbol;
+    arbol.escribir("otro disco/archivo", "uno");
+    HogarTemporal::enlace(arbol.en("Descargas"), arbol.en("otro disco"));
+    Recorrido recorrido = arbol.recorrido();
+    recorrido.raices = {arbol.en("Descargas")};
+    AccesoArchivosLinux acceso;
+    EXPECT_THAT(relativas(recorrer(recorrido, acceso, nullptr), arbol.raiz()),
+                ElementsAre("Descargas/archivo"));
+}
+
+TEST(Recorrer, NoEntraEnPaquetesPorSuExtensionEnMinusculas)
+{
+    const ArbolDeArchivos arbol;
+    for (const char *carpeta : {"Foo.app", "Fotos.photoslibrary", "Bar.BUNDLE", "app", "Foo.apps"})
+        arbol.escribir(std::string(carpeta) + "/dentro", "uno");
+    EXPECT_THAT(relativas(arbol.archivos(), arbol.raiz()), ElementsAre("Foo.apps/dentro", "app/dentro"));
+}
+
+TEST(Recorrer, PasaDeLargoPorNombresIgnoradosYOcultos)
+{
+    const ArbolDeArchivos arbol;
+    for (const char *ruta :
+         {"Library/x", "node_modules/x", "a/.git/x", ".oculto", ".cache/x", "venv/x", "Pods/x"})
+        arbol.escribir(ruta, "uno");
+    arbol.escribir("a/visible", "uno");
+    arbol.escribir("a/library/x", "uno");
+    EXPECT_THAT(relativas(arbol.archivos(), arbol.raiz()), ElementsAre("a/library/x", "a/visible"));
+}
+
+TEST(Recorrer, LoProtegidoQuedaFueraConTodoLoDeDebajo)
+{
+    const ArbolDeArchivos arbol;
+    arbol.escribir("a/x", "uno");
+    arbol.escribir("b/x", "uno");
+    Recorrido recorrido = arbol.recorrido();
+    recorrido.estaProtegida = [&](const std::string &ruta) { return ruta == arbol.en("a"); };
+    AccesoArchivosLinux acceso;
+    EXPECT_THAT(relativas(recorrer(recorrido, acceso, nullptr), arbol.raiz()), ElementsAre("b/x"));
+}
+
+TEST(Recorrer, TuberiasYZocalosNoSonArchivosYNadieLosAbre)
+{
+    const ArbolDeArchivos arbol;
+    ASSERT_EQ(::mkfifo(arbol.en("tuberia").c_str(), 0600), 0);
+    const int zocalo = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+    sockaddr_un direccion{AF_UNIX, {}};
+    arbol.en("z").copy(direccion.sun_path, sizeof direccion.sun_path - 1);
+    ASSERT_EQ(::bind(zocalo, reinterpret_cast<sockaddr *>(&direccion), sizeof direccion), 0);
+    arbol.escribir("archivo", "uno");
+    EXPECT_THAT(relativas(arbol.archivos(), arbol.raiz()), ElementsAre("archivo"));
+    ::close(zocalo);
+}
+
+TEST(Recorrer, UnMarcadorDeLaNubeNoSeListaPorGrandeQueSea)
+{
+    struct ConNube : AccesoArchivos
+    {
+        AccesoArchivosLinux real;
+        int abrir(const char *ruta) override { return real.abrir(ruta); }
+        ssize_t leer(int d, void *destino, std::size_t n) override { return real.leer(d, destino, n); }
+        void anticipar(int, std::uint64_t) override {}
+        bool esVirtual(int carpeta) override { return real.esVirtual(carpeta); }
+        bool estaEnLaNube(const struct stat &atributos) override { return atributos.st_blocks == 0; }
+    } acceso;
+    const ArbolDeArchivos arbol;
+    arbol.escribirHueco("en la nube", 1ULL << 40);
+    arbol.escribir("aqui", "uno");
+    EXPECT_THAT(relativas(recorrer(arbol.recorrido(), acceso, nullptr), arbol.raiz()), ElementsAre("aqui"));
+}
+
+TEST(Recorrer, CadaCarpetaSeRecorreUnaVezAunqueSeNombreDos)
+{
+    const ArbolDeArchivos arbol;
+    arbol.escribir("a/x", "uno");
+    Recorrido recorrido = arbol.recorrido();
+    recorrido.raices = {arbol.raiz(), arbol.en("a"), arbol.raiz()};
+    AccesoArchivosLinux acceso;
+    EXPECT_THAT(relativas(recorrer(recorrido, acceso, nullptr), arbol.raiz()), ElementsAre("a/x"));
+}
+
+TEST(Recorrer, NuncaEntraEnUnSistemaDeArchivosVirtual)
+{
+    AccesoArchivosLinux acceso;
+    Recorrido recorrido;
+    recorrido.raices = {"/proc/self", "/sys/kernel"};
+    EXPECT_TRUE(recorrer(recorrido, acceso, nullptr).empty());
+}
+
+TEST(Recorrer, DetenidoNoDaListaParcial)
+{
+    const ArbolDeArchivos arbol;
+    for (int i = 0; i < 5000; ++i)
+        arbol.escribir("llena/" + std::to_string(i), "x");
+    BanderaCancelacion bandera;
+    AccesoArchivosLinux acceso;
+    const auto archivos =
+        recorrer(arbol.recorrido(), acceso, &bandera, [&](std::uint64_t) { bandera.cancelar(); });
+    EXPECT_TRUE(archivos.empty());
+}
+
+TEST(Recorrer, AvisaCadaDosMilEntradasYAlFinal)
+{
+    const ArbolDeArchivos arbol;
+    for (int i = 0; i < 4100; ++i)
+        arbol.escribir("c/" + std::to_string(i), "");
+    std::vector<std::uint64_t> avisos;
+    AccesoArchivosLinux acceso;
+    recorrer(arbol.recorrido(1), acceso, nullptr, [&](std::uint64_t n) { avisos.push_back(n); });
+    EXPECT_THAT(avisos, ElementsAre(2000, 4000, 4101)) << "the folder itself is an entry too";
+}
+
+TEST(Recorrer, UnaCarpetaIlegibleSePasaPorAlto)
+{
+    if (::geteuid() == 0) GTEST_SKIP() << "root reads everything";
+    const ArbolDeArchivos arbol;
+    arbol.escribir("cerrada/x", "uno");
+    arbol.escribir("abierta/x", "uno");
+    ::chmod(arbol.en("cerrada").c_str(), 0);
+    const auto archivos = arbol.archivos();
+    ::chmod(arbol.en("cerrada").c_str(), 0700);
+    EXPECT_THAT(relativas(archivos, arbol.raiz()), ElementsAre("abierta/x"));
+}
+
+TEST(Recorrer, LlegaACarpetasMasHondasQueElCaminoMasLargo)
+{
+    const ArbolDeArchivos arbol;
+    constexpr int hondura = 4000;
+    int carpeta = ::open(arbol.raiz().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    for (int i = 0; i < hondura; ++i) {
+        ASSERT_EQ(::mkdirat(carpeta, "nivel", 0700), 0);
+        const int siguiente = ::openat(carpeta, "nivel", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+        ::close(carpeta);
+        carpeta = siguiente;
+    }
+    const int archivo = ::openat(carpeta, "fondo", O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
+    ASSERT_EQ(::write(archivo, "uno", 3), 3);
+    ::close(archivo);
+    ::close(carpeta);
+
+    const ListaArchivos archivos = arbol.archivos();
+    ASSERT_EQ(archivos.size(), 1U);
+    EXPECT_EQ(archivos.ruta(0).size(), arbol.raiz().size() + 6 * hondura + 6);
+    AccesoArchivosLinux acceso;
+    const int abierto = acceso.abrir(archivos.ruta(0).c_str());
+    char leido[8];
+    EXPECT_EQ(acceso.leer(abierto, leido, sizeof leido), 3);
+    ::close(abierto);
+    // The ordinary way to remove a tree cannot go this deep by path.
+    EXPECT_EQ(std::system(("rm -rf '" + arbol.en("nivel") + "'").c_str()), 0);
+}
+
+TEST(Recorrer, UnNombreQueNoEsUtf8LlegaEnteroByteAByte)
+{
+    const ArbolDeArchivos arbol;
+    arbol.escribir("ca\xC3\xB1\xFF/\xE9t\xE9\n.txt", "uno");
+    EXPECT_THAT(relativas(arbol.archivos(), arbol.raiz()), ElementsAre("ca\xC3\xB1\xFF/\xE9t\xE9\n.txt"));
+}
+
+TEST(Recorrer, UnaFechaDisparatadaSeQuedaEnElBordeDeLoQueCabe)
+{
+    const ArbolDeArchivos arbol;
+    arbol.escribir("futuro", "uno");
+    arbol.fechar("futuro", 10'000'000'000);
+    const ListaArchivos archivos = arbol.archivos();
+    struct stat atributos = {};
+    ::lstat(arbol.en("futuro").c_str(), &atributos);
+    if (atributos.st_mtim.tv_sec < 10'000'000'000) GTEST_SKIP() << "this file system cannot hold it";
+    EXPECT_EQ(archivos.modificadoNs(0), std::numeric_limits<std::int64_t>::max());
+}
+
+} // namespace
+} // namespace ovanta::pruebas
