@@ -5,6 +5,7 @@
 #include "analysis/CompararContenido.h"
 #include "analysis/LeerTrozo.h"
 #include "analysis/MarcaRapida.h"
+#include "analysis/MarcaSecreta.h"
 #include "analysis/Minusculas.h"
 #include "core/Hexadecimal.h"
 #include "core/OrdenEstable.h"
@@ -26,13 +27,20 @@ constexpr std::size_t porComparacion = 64;
 /// How much of a large file is asked of the disk before its turn.
 constexpr std::uint64_t adelantoDeGrandes = 1 << 20;
 
-/// A short one stands for a read error or a file that shrank.
+/// What tells one head from another. A short one stands for a read error or a file that shrank.
 struct Cabeza
 {
-    Digesto digesto;
+    MarcaSecreta::Marca marca{};
     bool entera = false;
 
     auto operator<=>(const Cabeza &) const = default;
+};
+
+/// Files whose heads are equal.
+struct Conjunto
+{
+    bool cabezaEntera = false;
+    std::vector<Numero> archivos;
 };
 
 std::string enHexadecimal(const Digesto &digesto)
@@ -54,7 +62,8 @@ public:
         separarPorMarca();
         if (cancelada(m_cancelacion)) return {};
         separarPorCabeza();
-        compararContenidos();
+        nombrarCortos();
+        compararGrandes();
         if (cancelada(m_cancelacion)) return {};
         std::vector<ContenidoIgual> iguales;
         for (auto &[clave, archivos] : m_iguales)
@@ -99,26 +108,21 @@ private:
     {
         const auto todos = [](Numero) { return true; };
         const auto cabezas = claves(cabeza, Cabeza{}, todos, [&](Numero archivo, int descriptor) {
-            return leerCabeza(descriptor, m_archivos.bytes(archivo));
+            const std::size_t leidos = leerCabeza(descriptor, m_archivos.bytes(archivo));
+            return Cabeza{m_marca.de(m_leido.get(), leidos), leidos == cabeza};
         });
         const std::vector<std::uint32_t> antes = m_candidatos.separar(cabezas);
         std::unordered_map<std::uint32_t, std::size_t> lugarDeConjunto;
         for (std::size_t i = 0; i < antes.size(); ++i) {
             const auto [archivo, conjunto] = m_candidatos.todos()[i];
-            const Cabeza &suya = *cabezas[antes[i]];
-            if (m_archivos.bytes(archivo) <= cabeza) {
-                anotar("corto-" + std::to_string(m_archivos.bytes(archivo)) + "-" +
-                           enHexadecimal(suya.digesto),
-                       archivo);
-                continue;
-            }
-            const auto [lugar, nuevo] = lugarDeConjunto.try_emplace(conjunto, m_grandes.size());
-            if (nuevo) m_grandes.push_back({suya.entera ? cabeza : 0, {}});
-            m_grandes[lugar->second].archivos.push_back(archivo);
+            std::vector<Conjunto> &suyos = m_archivos.bytes(archivo) <= cabeza ? m_cortos : m_grandes;
+            const auto [lugar, nuevo] = lugarDeConjunto.try_emplace(conjunto, suyos.size());
+            if (nuevo) suyos.push_back({cabezas[antes[i]]->entera, {}});
+            suyos[lugar->second].archivos.push_back(archivo);
         }
     }
 
-    Cabeza leerCabeza(int descriptor, std::uint64_t esperados)
+    std::size_t leerCabeza(int descriptor, std::uint64_t esperados)
     {
         std::size_t leidos = 0;
         while (leidos < cabeza) {
@@ -128,23 +132,42 @@ private:
             // A read that comes short just where the file should end has met its end.
             if (leidos == esperados) break;
         }
-        m_sha.empezar();
-        m_sha.agregar(m_leido.get(), leidos);
-        return {m_sha.terminar(), leidos == cabeza};
+        return leidos;
     }
 
-    void compararContenidos()
+    /// One digest of the first of each set is the name of all.
+    void nombrarCortos()
+    {
+        std::vector<Numero> primeros;
+        for (const Conjunto &corto : m_cortos)
+            primeros.push_back(corto.archivos.front());
+        AperturaAdelantada abiertos(m_archivos, m_candidatos.enlaces(), m_acceso, primeros, cabeza);
+        for (const Conjunto &corto : m_cortos) {
+            if (cancelada(m_cancelacion)) return;
+            const std::uint64_t bytes = m_archivos.bytes(corto.archivos.front());
+            std::string clave = "corto-" + std::to_string(bytes) + "-";
+            if (const Descriptor primero = abiertos.siguiente(); primero.abierto()) {
+                m_sha.empezar();
+                m_sha.agregar(m_leido.get(), leerCabeza(primero.numero(), bytes));
+                clave += enHexadecimal(m_sha.terminar());
+            }
+            for (const Numero archivo : corto.archivos)
+                anotar(clave, archivo);
+        }
+    }
+
+    void compararGrandes()
     {
         std::vector<Numero> orden;
-        for (const Grande &grande : m_grandes)
+        for (const Conjunto &grande : m_grandes)
             orden.insert(orden.end(), grande.archivos.begin(), grande.archivos.end());
         AperturaAdelantada abiertos(m_archivos, m_candidatos.enlaces(), m_acceso, orden, adelantoDeGrandes);
-        for (const Grande &grande : m_grandes) {
+        for (const Conjunto &grande : m_grandes) {
             std::span<const Numero> quedan = grande.archivos;
             while (!quedan.empty() && !cancelada(m_cancelacion)) {
-                const std::size_t cuantos = std::min(quedan.size(), porComparacion);
-                comparar(quedan.first(cuantos), grande.igualesHasta, abiertos);
-                quedan = quedan.subspan(cuantos);
+                const auto juntos = quedan.first(std::min(quedan.size(), porComparacion));
+                comparar(juntos, grande.cabezaEntera ? cabeza : 0, abiertos);
+                quedan = quedan.subspan(juntos.size());
             }
         }
     }
@@ -167,20 +190,15 @@ private:
         iguales.insert(iguales.end(), nombres.begin(), nombres.end());
     }
 
-    /// Files above the head's length whose heads are equal.
-    struct Grande
-    {
-        std::uint64_t igualesHasta;
-        std::vector<Numero> archivos;
-    };
-
     const ListaArchivos &m_archivos;
     AccesoArchivos &m_acceso;
     const BanderaCancelacion *m_cancelacion;
     Candidatos m_candidatos;
     std::unique_ptr<char[]> m_leido;
+    MarcaSecreta m_marca;
     Sha256 m_sha;
-    std::vector<Grande> m_grandes;
+    std::vector<Conjunto> m_cortos;
+    std::vector<Conjunto> m_grandes; ///< above the head's length
     std::unordered_map<std::string, std::vector<Numero>> m_iguales;
 };
 

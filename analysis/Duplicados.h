@@ -18,7 +18,7 @@ struct ContenidoIgual
 };
 
 /// Finds the files with the same content by a funnel whose stages read ever more of ever fewer files:
-/// equal size, equal first KiB, equal SHA-256 of the first 64 KiB, equal SHA-256 of all. A file that
+/// equal size, equal first KiB, equal first 64 KiB, equal SHA-256 of all. A file that
 /// cannot be opened drops out; a read error ends a content as its end would. In no particular order;
 /// empty where it was stopped. Blocking, one file after another; any thread.
 std::vector<ContenidoIgual> contenidosIguales(const ListaArchivos &archivos, AccesoArchivos &acceso,
