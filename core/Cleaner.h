@@ -47,8 +47,9 @@ public:
 
     /// Cleans rules of the catalogue.
     QCoro::Task<ResultadoLimpieza> limpiar(std::vector<Regla> reglas);
-    /// Moves paths under the home directory.
-    QCoro::Task<ResultadoLimpieza> limpiarRutas(std::vector<std::string> rutas, std::string etiqueta);
+    /// Moves paths under the home directory. `mirada`, where given, looks at each right before its move.
+    QCoro::Task<ResultadoLimpieza> limpiarRutas(std::vector<std::string> rutas, std::string etiqueta,
+                                                UltimaMirada mirada = {});
     /// Moves paths inside a folder that the user chose.
     QCoro::Task<ResultadoLimpieza> limpiarRutasSeleccionadas(std::vector<std::string> rutas,
                                                              std::string dentroDe, std::string etiqueta);

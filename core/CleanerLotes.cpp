@@ -66,12 +66,13 @@ QCoro::Task<ResultadoLimpieza> Cleaner::limpiar(std::vector<Regla> reglas)
     co_return lote->resultado;
 }
 
-QCoro::Task<ResultadoLimpieza> Cleaner::limpiarRutas(std::vector<std::string> rutas, std::string etiqueta)
+QCoro::Task<ResultadoLimpieza> Cleaner::limpiarRutas(std::vector<std::string> rutas, std::string etiqueta,
+                                                     UltimaMirada mirada)
 {
     const QPointer vivo{this};
     const auto lote = empezar();
-    auto pedir = [puerta = m_puerta, etiqueta](const auto &ruta) {
-        return pedidoDeRuta(puerta, ruta, etiqueta);
+    auto pedir = [puerta = m_puerta, etiqueta, mirada](const auto &ruta) {
+        return pedidoDeRuta(puerta, ruta, etiqueta, mirada);
     };
     co_await mover(lote, std::move(rutas), std::move(pedir));
     if (vivo) co_await terminar(lote);

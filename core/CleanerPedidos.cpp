@@ -4,6 +4,7 @@
 #include "core/Rutas.h"
 
 #include <exception>
+#include <stdexcept>
 
 namespace ovanta {
 
@@ -26,6 +27,14 @@ std::function<Papelera::Medida()> validarYMedir(const Puerta &puerta, const std:
     };
 }
 
+std::function<void(const Papelera::Medida &)> queRechace(const UltimaMirada &mirada)
+{
+    if (!mirada) return {};
+    return [mirada](const Papelera::Medida &medida) {
+        if (const auto vista = mirada(medida); !vista) throw std::runtime_error(vista.error());
+    };
+}
+
 /// Where the folder of a validated path must really lie. Applications have a place outside home.
 std::string raizDe(const Seguridad &seguridad, const std::string &ruta)
 {
@@ -45,9 +54,11 @@ Pedido pedidoDeRegla(const Puerta &puerta, const Regla &regla, const std::string
             .nombre = regla.name};
 }
 
-Pedido pedidoDeRuta(const Puerta &puerta, const std::string &ruta, const std::string &etiqueta)
+Pedido pedidoDeRuta(const Puerta &puerta, const std::string &ruta, const std::string &etiqueta,
+                    const UltimaMirada &mirada)
 {
     return {.medir = validarYMedir(puerta, ruta),
+            .antesDeMover = queRechace(mirada),
             .etiqueta = etiqueta,
             .progreso = "Moviendo " + nombreDe(ruta) + "…",
             .alRechazar = "Ruta rechazada: " + ruta,

@@ -4,6 +4,8 @@
 #include "core/Regla.h"
 #include "core/Seguridad.h"
 
+#include <expected>
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -19,8 +21,13 @@ struct Puerta
 /// An item that a rule of the catalogue names.
 Pedido pedidoDeRegla(const Puerta &puerta, const Regla &regla, const std::string &ruta);
 
-/// A path under the home directory.
-Pedido pedidoDeRuta(const Puerta &puerta, const std::string &ruta, const std::string &etiqueta);
+/// What a caller wants to see once more about an item right before it moves: a text for the user keeps
+/// it where it is. Called on a background thread.
+using UltimaMirada = std::function<std::expected<void, std::string>(const Papelera::Medida &)>;
+
+/// A path under the home directory. `mirada` may be empty.
+Pedido pedidoDeRuta(const Puerta &puerta, const std::string &ruta, const std::string &etiqueta,
+                    const UltimaMirada &mirada);
 
 /// The folder that the user chose for a batch, and where it really lay when the batch began.
 struct Seleccion

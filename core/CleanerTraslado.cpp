@@ -16,6 +16,7 @@ Movimiento mover(MediosDeTraslado medios, RegistroPrevio &registro, const Pedido
 {
     const auto medida = pedido.medir();
     const auto bytes = tamano(medios.herramientas, medida.ruta);
+    if (pedido.antesDeMover) pedido.antesDeMover(medida);
     Movimiento movimiento{uuidNuevo(), medida.ruta, bytes, medios.reloj.ahora(), pedido.etiqueta};
     registro.intento(movimiento, medida.identidad);
     if (const auto movido = medios.papelera.reciclar(medida); !movido) {

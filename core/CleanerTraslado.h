@@ -27,6 +27,8 @@ struct Pedido
     /// Validates the item and at once takes its measure, so that what moves is what was validated.
     /// Throws `Seguridad::Rechazo` for a refusal, any other exception for a failure. Any thread.
     std::function<Papelera::Medida()> medir;
+    /// A last look right before the move; it throws as `medir` does. May be empty.
+    std::function<void(const Papelera::Medida &)> antesDeMover = {};
     std::string etiqueta;
     std::string progreso;   ///< shown while the item is under way; empty: what was shown stays
     std::string alRechazar; ///< the line of the result where the item is refused
