@@ -24,6 +24,10 @@ public:
     /// Tells the system that the first `bytes` will be read soon.
     virtual void anticipar(int descriptor, std::uint64_t bytes) = 0;
 
+    /// How many bytes of an open file lie in blocks that it shares with another (a clone, a snapshot);
+    /// 0 where the file system does not tell.
+    virtual std::uint64_t bytesCompartidos(int descriptor) = 0;
+
     /// Whether the open folder belongs to a file system that holds nobody's files (/proc and its like)
     /// or that mounts something when it is touched.
     virtual bool esVirtual(int carpeta) = 0;

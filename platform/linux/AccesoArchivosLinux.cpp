@@ -1,12 +1,18 @@
 #include "platform/linux/AccesoArchivosLinux.h"
 
 #include "core/AbrirCamino.h"
+#include "core/Tamano.h"
 
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <cstddef>
 #include <fcntl.h>
+#include <linux/fiemap.h>
+#include <linux/fs.h>
 #include <linux/magic.h>
+#include <span>
+#include <sys/ioctl.h>
 #include <sys/statfs.h>
 #include <unistd.h>
 
@@ -49,6 +55,31 @@ ssize_t AccesoArchivosLinux::leer(int descriptor, void *destino, std::size_t byt
 void AccesoArchivosLinux::anticipar(int descriptor, std::uint64_t bytes)
 {
     ::posix_fadvise(descriptor, 0, static_cast<off_t>(bytes), POSIX_FADV_WILLNEED);
+}
+
+std::uint64_t AccesoArchivosLinux::bytesCompartidos(int descriptor)
+{
+    // Documentation/filesystems/fiemap.rst; the extents follow the request in one buffer.
+    constexpr std::size_t porPregunta = 64;
+    alignas(fiemap) std::array<std::byte, sizeof(fiemap) + porPregunta * sizeof(fiemap_extent)> memoria;
+    auto *const pregunta = reinterpret_cast<fiemap *>(memoria.data());
+    std::uint64_t compartidos = 0;
+    for (std::uint64_t desde = 0;;) {
+        memoria.fill({});
+        pregunta->fm_start = desde;
+        pregunta->fm_length = FIEMAP_MAX_OFFSET - desde;
+        pregunta->fm_extent_count = porPregunta;
+        if (::ioctl(descriptor, FS_IOC_FIEMAP, pregunta) != 0) return compartidos;
+        const std::span extensiones(pregunta->fm_extents,
+                                    std::min<std::size_t>(pregunta->fm_mapped_extents, porPregunta));
+        for (const fiemap_extent &extension : extensiones)
+            if (extension.fe_flags & FIEMAP_EXTENT_SHARED)
+                compartidos = sumarConTope(compartidos, extension.fe_length);
+        if (extensiones.empty() || (extensiones.back().fe_flags & FIEMAP_EXTENT_LAST)) return compartidos;
+        const std::uint64_t fin = extensiones.back().fe_logical + extensiones.back().fe_length;
+        if (fin <= desde) return compartidos;
+        desde = fin;
+    }
 }
 
 bool AccesoArchivosLinux::esVirtual(int carpeta)

@@ -53,6 +53,7 @@ public:
     }
 
     void anticipar(int descriptor, std::uint64_t bytes) override { m_real.anticipar(descriptor, bytes); }
+    std::uint64_t bytesCompartidos(int descriptor) override { return m_real.bytesCompartidos(descriptor); }
     bool esVirtual(int carpeta) override { return m_real.esVirtual(carpeta); }
     bool estaEnLaNube(const struct stat &) override { return false; }
 

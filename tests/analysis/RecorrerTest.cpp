@@ -1,6 +1,7 @@
 #include "analysis/Recorrer.h"
 
 #include "core/Seguridad.h"
+#include "tests/analysis/AccesoConFallos.h"
 #include "tests/analysis/ArbolDeArchivos.h"
 
 #include <gmock/gmock.h>
@@ -89,13 +90,8 @@ TEST(Recorrer, TuberiasYZocalosNoSonArchivosYNadieLosAbre)
 
 TEST(Recorrer, UnMarcadorDeLaNubeNoSeListaPorGrandeQueSea)
 {
-    struct ConNube : AccesoArchivos
+    struct ConNube : AccesoConFallos
     {
-        AccesoArchivosLinux real;
-        int abrir(const char *ruta) override { return real.abrir(ruta); }
-        ssize_t leer(int d, void *destino, std::size_t n) override { return real.leer(d, destino, n); }
-        void anticipar(int, std::uint64_t) override {}
-        bool esVirtual(int carpeta) override { return real.esVirtual(carpeta); }
         bool estaEnLaNube(const struct stat &atributos) override { return atributos.st_blocks == 0; }
     } acceso;
     const ArbolDeArchivos arbol;
