@@ -12,6 +12,10 @@ struct Lugares
     std::string hogar;
     /// Folders below home, relative to it, that join the protected ones on this platform.
     std::vector<std::string> protegidas;
+    /// The folders that an analysis of the files walks, relative to home; they may be missing.
+    std::vector<std::string> raices{"Downloads", "Desktop", "Documents", "Pictures", "Movies"};
+    /// Those of them that downloads land in.
+    std::vector<std::string> descargas{"Downloads"};
     /// The catalogue of rules for this platform; the file may be missing.
     std::string catalogo;
     /// Folder with the program's own pictures.

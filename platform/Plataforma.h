@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/Preferencias.h"
+#include "platform/AccesoArchivos.h"
 #include "platform/AnfitrionBandeja.h"
 #include "platform/Apariencia.h"
 #include "platform/Aplicaciones.h"
@@ -32,6 +33,7 @@ public:
     virtual Reloj &reloj() = 0;
     virtual Volumen &volumen() = 0;
     virtual Papelera &papelera() = 0;
+    virtual AccesoArchivos &accesoArchivos() = 0;
     virtual Herramientas &herramientas() = 0;
     virtual Aplicaciones &aplicaciones() = 0;
     virtual Notificaciones &notificaciones() = 0;

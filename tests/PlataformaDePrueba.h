@@ -5,10 +5,12 @@
 #include "tests/RelojManual.h"
 
 #include <algorithm>
+#include <fcntl.h>
 #include <filesystem>
 #include <functional>
 #include <map>
 #include <mutex>
+#include <unistd.h>
 #include <utility>
 #include <vector>
 
@@ -38,6 +40,31 @@ struct HerramientasDePrueba final : Herramientas
         return alEjecutar(binario, args);
     }
     std::optional<std::string> buscarBinario(std::string_view) override { return std::nullopt; }
+};
+
+/// Plain reads; `alAbrir` may hold one up.
+struct AccesoArchivosDePrueba final : AccesoArchivos
+{
+    std::function<void(const std::string &ruta)> alAbrir = [](const std::string &) {};
+    std::function<void()> alMirarCarpeta = [] {};
+
+    int abrir(const char *ruta) override
+    {
+        alAbrir(ruta);
+        return ::open(ruta, O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
+    }
+    ssize_t leer(int descriptor, void *destino, std::size_t bytes) override
+    {
+        return ::read(descriptor, destino, bytes);
+    }
+    void anticipar(int, std::uint64_t) override {}
+    std::uint64_t bytesCompartidos(int) override { return 0; }
+    bool esVirtual(int) override
+    {
+        alMirarCarpeta();
+        return false;
+    }
+    bool estaEnLaNube(const struct stat &) override { return false; }
 };
 
 struct VolumenDePrueba final : Volumen
@@ -248,6 +275,7 @@ struct PlataformaDePrueba : Plataforma
     VolumenDePrueba m_volumen;
     PapeleraDePrueba m_papelera;
     Papelera *m_otraPapelera = nullptr; ///< takes the place of `m_papelera` where set
+    AccesoArchivosDePrueba m_accesoArchivos;
     HerramientasDePrueba m_herramientas;
     AplicacionesDePrueba m_aplicaciones;
     NotificacionesDePrueba m_notificaciones;
@@ -266,6 +294,7 @@ struct PlataformaDePrueba : Plataforma
     Reloj &reloj() override { return m_reloj; }
     Volumen &volumen() override { return m_volumen; }
     Papelera &papelera() override { return m_otraPapelera ? *m_otraPapelera : m_papelera; }
+    AccesoArchivos &accesoArchivos() override { return m_accesoArchivos; }
     Herramientas &herramientas() override { return m_herramientas; }
     Aplicaciones &aplicaciones() override { return m_aplicaciones; }
     Notificaciones &notificaciones() override { return m_notificaciones; }

@@ -1,6 +1,7 @@
 #include "core/qt/SegundoPlano.h"
 
 #include <QThread>
+#include <utility>
 
 namespace ovanta {
 
@@ -9,6 +10,9 @@ namespace {
 /// Tools block their thread while they run, so there are more threads than the work itself needs.
 constexpr int hilosPorReserva = 8;
 
+/// As often may a disk hang before the next analysis has to wait.
+constexpr int hilosQuePuedenColgarse = 64;
+
 /// An idle thread keeps a stack and a heap arena: let it go soon, the program rests most of the time.
 constexpr int caducidadMs = 5000;
 
@@ -16,10 +20,10 @@ struct Reserva
 {
     QThreadPool hilos;
 
-    Reserva(const char *nombre, QThread::Priority prioridad)
+    Reserva(const char *nombre, QThread::Priority prioridad, int cuantos = hilosPorReserva)
     {
         hilos.setObjectName(QLatin1String(nombre));
-        hilos.setMaxThreadCount(hilosPorReserva);
+        hilos.setMaxThreadCount(cuantos);
         hilos.setExpiryTimeout(caducidadMs);
         hilos.setThreadPriority(prioridad);
     }
@@ -31,14 +35,24 @@ QThreadPool &detalle::reserva(Prioridad prioridad)
 {
     static Reserva utilidad("utilidad", QThread::LowPriority);
     static Reserva usuario("usuario", QThread::NormalPriority);
-    return prioridad == Prioridad::Utilidad ? utilidad.hilos : usuario.hilos;
+    static Reserva colgable("analisis", QThread::LowPriority, hilosQuePuedenColgarse);
+    switch (prioridad) {
+    case Prioridad::Utilidad:
+        return utilidad.hilos;
+    case Prioridad::Usuario:
+        return usuario.hilos;
+    case Prioridad::PuedeColgarse:
+        return colgable.hilos;
+    }
+    std::unreachable();
 }
 
 bool esperarSegundoPlano(int milisegundos)
 {
-    const bool utilidad = detalle::reserva(Prioridad::Utilidad).waitForDone(milisegundos / 2);
-    const bool usuario = detalle::reserva(Prioridad::Usuario).waitForDone(milisegundos / 2);
-    return utilidad && usuario;
+    bool todas = true;
+    for (const Prioridad prioridad : {Prioridad::Utilidad, Prioridad::Usuario, Prioridad::PuedeColgarse})
+        todas = detalle::reserva(prioridad).waitForDone(milisegundos / 3) && todas;
+    return todas;
 }
 
 } // namespace ovanta

@@ -11,8 +11,10 @@
 namespace ovanta {
 
 /// How urgent a background task is. `Utilidad` runs at a low thread priority and never keeps more
-/// than a few cores busy; `Usuario` is for work that somebody is waiting for.
-enum class Prioridad { Utilidad, Usuario };
+/// than a few cores busy; `Usuario` is for work that somebody is waiting for. `PuedeColgarse` is a
+/// `Utilidad` that reads the user's own folders, where a dead disk may hold its thread for ever: it has
+/// threads of its own, so that nothing else waits behind it.
+enum class Prioridad { Utilidad, Usuario, PuedeColgarse };
 
 namespace detalle {
 QThreadPool &reserva(Prioridad prioridad);

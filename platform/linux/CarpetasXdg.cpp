@@ -41,16 +41,33 @@ std::optional<std::string> bajoHogar(std::string_view valor, std::string_view ho
     return ruta.substr(hogar.size() + 1);
 }
 
-std::optional<std::string> leerLinea(std::string_view linea, std::string_view hogar)
+struct Entrada
+{
+    std::string_view clave;
+    std::string carpeta;
+};
+
+std::optional<Entrada> leerLinea(std::string_view linea, std::string_view hogar)
 {
     linea = recortarBlancos(linea);
     const std::size_t igual = linea.find('=');
     if (igual == std::string_view::npos) return std::nullopt;
     const std::string_view clave = linea.substr(0, igual);
-    if (!clave.starts_with(principioClave) || !clave.ends_with(finClave) || clave == claveDescargas)
-        return std::nullopt;
+    if (!clave.starts_with(principioClave) || !clave.ends_with(finClave)) return std::nullopt;
     const auto valor = entreComillas(linea.substr(igual + 1));
-    return valor ? bajoHogar(*valor, hogar) : std::nullopt;
+    auto carpeta = valor ? bajoHogar(*valor, hogar) : std::nullopt;
+    return carpeta ? std::optional<Entrada>{{clave, std::move(*carpeta)}} : std::nullopt;
+}
+
+std::vector<Entrada> entradas(std::string_view userDirs, std::string_view hogar)
+{
+    std::vector<Entrada> leidas;
+    while (!userDirs.empty()) {
+        const std::size_t fin = std::min(userDirs.find('\n'), userDirs.size());
+        if (auto entrada = leerLinea(userDirs.substr(0, fin), hogar)) leidas.push_back(std::move(*entrada));
+        userDirs.remove_prefix(std::min(fin + 1, userDirs.size()));
+    }
+    return leidas;
 }
 
 } // namespace
@@ -58,14 +75,20 @@ std::optional<std::string> leerLinea(std::string_view linea, std::string_view ho
 std::vector<std::string> carpetasDelUsuario(std::string_view userDirs, std::string_view hogar)
 {
     std::vector<std::string> carpetas;
-    while (!userDirs.empty()) {
-        const std::size_t fin = std::min(userDirs.find('\n'), userDirs.size());
-        auto carpeta = leerLinea(userDirs.substr(0, fin), hogar);
-        userDirs.remove_prefix(std::min(fin + 1, userDirs.size()));
-        if (carpeta && std::find(carpetas.begin(), carpetas.end(), *carpeta) == carpetas.end())
-            carpetas.push_back(std::move(*carpeta));
+    for (Entrada &entrada : entradas(userDirs, hogar)) {
+        const bool repetida = std::ranges::find(carpetas, entrada.carpeta) != carpetas.end();
+        if (entrada.clave != claveDescargas && !repetida) carpetas.push_back(std::move(entrada.carpeta));
     }
     return carpetas;
+}
+
+std::optional<std::string> carpetaDelUsuario(std::string_view userDirs, std::string_view hogar,
+                                             std::string_view clave)
+{
+    std::optional<std::string> ultima;
+    for (Entrada &entrada : entradas(userDirs, hogar))
+        if (entrada.clave == clave) ultima = std::move(entrada.carpeta);
+    return ultima;
 }
 
 } // namespace ovanta

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,5 +12,9 @@ namespace ovanta {
 /// is not understood are left out too.
 /// Source: https://www.freedesktop.org/wiki/Software/xdg-user-dirs/
 std::vector<std::string> carpetasDelUsuario(std::string_view userDirs, std::string_view hogar);
+
+/// The folder that the same text gives for `clave`, for example "XDG_DOWNLOAD_DIR", under the same terms.
+std::optional<std::string> carpetaDelUsuario(std::string_view userDirs, std::string_view hogar,
+                                             std::string_view clave);
 
 } // namespace ovanta

@@ -6,6 +6,7 @@
 #include "core/Rutas.h"
 #include "platform/linux/CarpetasXdg.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <pwd.h>
@@ -56,16 +57,30 @@ std::string leerUserDirs(const EntornoLugares &entorno, const std::string &hogar
 }
 
 /// Where people's own data lies on Linux besides the places that every platform has.
-std::vector<std::string> protegidasDe(const EntornoLugares &entorno, const std::string &hogar)
+std::vector<std::string> protegidasDe(std::string_view userDirs, const std::string &hogar)
 {
     std::vector<std::string> protegidas = {
         ".local", ".local/share", ".local/state", ".local/share/keyrings", ".var",  ".var/app",
         "snap",   ".mozilla",     ".thunderbird", ".password-store",       ".kube", ".docker",
         ".pki",   ".bashrc",      ".profile",
     };
-    for (std::string &carpeta : carpetasDelUsuario(leerUserDirs(entorno, hogar), hogar))
+    for (std::string &carpeta : carpetasDelUsuario(userDirs, hogar))
         protegidas.push_back(std::move(carpeta));
     return protegidas;
+}
+
+/// The folders of an analysis by the names that they have in the user's language, beside the English
+/// ones.
+void agregarRaices(Lugares &lugares, std::string_view userDirs)
+{
+    const auto agregar = [&](std::string_view clave, std::vector<std::string> &lista) {
+        const auto carpeta = carpetaDelUsuario(userDirs, lugares.hogar, clave);
+        if (carpeta && std::ranges::find(lista, *carpeta) == lista.end()) lista.push_back(*carpeta);
+    };
+    for (const char *clave :
+         {"XDG_DOWNLOAD_DIR", "XDG_DESKTOP_DIR", "XDG_DOCUMENTS_DIR", "XDG_PICTURES_DIR", "XDG_VIDEOS_DIR"})
+        agregar(clave, lugares.raices);
+    agregar("XDG_DOWNLOAD_DIR", lugares.descargas);
 }
 
 } // namespace
@@ -81,7 +96,9 @@ Lugares lugaresLinux(const EntornoLugares &entorno)
 {
     Lugares lugares;
     lugares.hogar = hogarDe(entorno.home);
-    lugares.protegidas = protegidasDe(entorno, lugares.hogar);
+    const std::string userDirs = leerUserDirs(entorno, lugares.hogar);
+    lugares.protegidas = protegidasDe(userDirs, lugares.hogar);
+    agregarRaices(lugares, userDirs);
     lugares.recursos = carpetaRecursos(entorno.carpetaPrograma);
     lugares.catalogo = lugares.recursos + "/linux/rules.json";
     return lugares;

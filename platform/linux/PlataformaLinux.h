@@ -2,6 +2,7 @@
 
 #include "core/qt/PreferenciasQt.h"
 #include "platform/Plataforma.h"
+#include "platform/linux/AccesoArchivosLinux.h"
 #include "platform/linux/AnfitrionBandejaLinux.h"
 #include "platform/linux/AparienciaLinux.h"
 #include "platform/linux/AplicacionesLinux.h"
@@ -33,6 +34,7 @@ public:
     Reloj &reloj() override { return m_reloj; }
     Volumen &volumen() override { return m_volumen; }
     Papelera &papelera() override { return m_papelera; }
+    AccesoArchivos &accesoArchivos() override { return m_accesoArchivos; }
     Herramientas &herramientas() override { return m_herramientas; }
     Aplicaciones &aplicaciones() override { return m_aplicaciones; }
     Notificaciones &notificaciones() override { return m_notificaciones; }
@@ -54,6 +56,7 @@ private:
     RelojLinux m_reloj;
     VolumenLinux m_volumen;
     PapeleraLinux m_papelera;
+    AccesoArchivosLinux m_accesoArchivos;
     HerramientasLinux m_herramientas;
     AplicacionesLinux m_aplicaciones;
     NotificacionesLinux m_notificaciones;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Plataforma.h"
+#include "platform/simulada/AccesoArchivosSimulado.h"
 #include "platform/simulada/AplicacionesSimuladas.h"
 #include "platform/simulada/CasaSintetica.h"
 #include "platform/simulada/EscritorioSimulado.h"
@@ -46,6 +47,7 @@ public:
     RelojSimulado &reloj() override { return m_reloj; }
     VolumenSimulado &volumen() override { return m_volumen; }
     PapeleraSimulada &papelera() override { return m_papelera; }
+    AccesoArchivosSimulado &accesoArchivos() override { return m_accesoArchivos; }
     HerramientasSimuladas &herramientas() override { return m_herramientas; }
     AplicacionesSimuladas &aplicaciones() override { return m_aplicaciones; }
     NotificacionesSimuladas &notificaciones() override { return m_notificaciones; }
@@ -67,6 +69,7 @@ private:
     RelojSimulado m_reloj;
     VolumenSimulado m_volumen;
     PapeleraSimulada m_papelera;
+    AccesoArchivosSimulado m_accesoArchivos;
     HerramientasSimuladas m_herramientas;
     AplicacionesSimuladas m_aplicaciones;
     NotificacionesSimuladas m_notificaciones;
