@@ -2,6 +2,7 @@
 
 #include "analysis/BanderaCancelacion.h"
 #include "analysis/Clasificar.h"
+#include "analysis/GuardianDeCopias.h"
 #include "core/qt/TareaAbandonable.h"
 #include "platform/Plataforma.h"
 
@@ -59,6 +60,9 @@ public:
     std::uint64_t desperdicioTotal() const { return m_desperdicioTotal; }
     std::uint64_t bytesCarpetas() const { return m_bytesCarpetas; }
 
+    /// Who moves found files asks it right before each move.
+    const std::shared_ptr<GuardianDeCopias> &guardian() const { return m_guardian; }
+
     /// `plataforma` must outlive it and the background tasks.
     explicit Scanner(Plataforma &plataforma, QObject *parent = nullptr);
     ~Scanner() override;
@@ -92,6 +96,7 @@ private:
     auto etapa(F trabajo);
 
     Plataforma &m_plataforma;
+    std::shared_ptr<GuardianDeCopias> m_guardian = std::make_shared<GuardianDeCopias>();
     double m_minimoMB = 1.0;
     int m_diasDescargas = 90;
     std::vector<std::string> m_raices;
