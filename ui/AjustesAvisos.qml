@@ -57,6 +57,7 @@ GrupoAjustes {
         }
     }
     FilaAjuste {
+        linea: false
         Boton {
             text: "Enviar un aviso de prueba"
             onClicked: raiz.estado.probarAviso()

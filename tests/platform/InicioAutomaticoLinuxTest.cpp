@@ -1,5 +1,6 @@
 #include "platform/linux/InicioAutomaticoLinux.h"
 #include "platform/linux/EntradaAutostart.h"
+#include "platform/simulada/EscritorioSimulado.h"
 #include "platform/simulada/InicioSimulado.h"
 #include "tests/HogarTemporal.h"
 
@@ -184,11 +185,17 @@ TEST_F(InicioAutomaticoLinuxTest, aProgramThatNoEntryCanNameIsRefused)
     }
 }
 
+TEST_F(InicioAutomaticoLinuxTest, aPercentSignIsDoubled)
+{
+    EXPECT_THAT(entradaQueArranca("/opt/al 100%/OvantaBar").value_or(""),
+                HasSubstr("\nExec=\"/opt/al 100%%/OvantaBar\"\n"));
+}
+
 TEST_F(InicioAutomaticoLinuxTest, aRealSessionToolStartsTheProgramWhateverItsFolderIsCalled)
 {
     const QString gio = QStandardPaths::findExecutable(QStringLiteral("gio"));
     if (gio.isEmpty()) GTEST_SKIP() << "no tool to launch an entry with";
-    programa = casa.en("mi \"carpeta\" \\ con $HOME `id` 100% y 'comillas'; #~/OvantaBar");
+    programa = casa.en("mi \"carpeta\" \\ con $HOME `id` y 'comillas'; #~/OvantaBar");
     const std::string testigo = casa.en("arrancado");
     escribir(programa, "#!/bin/sh\nprintf '%s' \"$0\" > \"" + testigo + "\"\n");
     fs::permissions(programa, fs::perms::owner_all);
@@ -226,4 +233,14 @@ TEST(InicioSimulado, theSimulatedMacRecordsEveryRequestAndCanRefuse)
     EXPECT_EQ(hecho.error(), "La operación no está permitida");
     EXPECT_TRUE(inicio.activado());
     EXPECT_THAT(registro.objetos(Mutacion::Clase::inicio), ElementsAre("alta", "baja"));
+}
+
+TEST(PoliticaSimulada, theSimulatedMacRecordsWhereTheProgramIsShown)
+{
+    RegistroMutaciones registro;
+    PoliticaSimulada politica(registro);
+    EXPECT_EQ(politica.actual(), PoliticaActivacion::Politica::regular);
+    politica.fijar(PoliticaActivacion::Politica::accesoria);
+    EXPECT_EQ(politica.actual(), PoliticaActivacion::Politica::accesoria);
+    EXPECT_THAT(registro.objetos(Mutacion::Clase::politica), ElementsAre("accesoria"));
 }

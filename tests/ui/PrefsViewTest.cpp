@@ -210,6 +210,17 @@ TEST_F(PrefsView, aSliderIsDraggedAndTheWheelOnlyScrollsThePage)
     EXPECT_EQ(app().disco().umbralAviso(), 400);
 }
 
+TEST_F(PrefsView, theWheelChangesNeitherPickerNorStepper)
+{
+    abrirAlta();
+    girarRueda(centro(pieza(selector, bateria)));
+    enfocar(selector, bateria);
+    girarRueda(centro(pieza(selector, bateria)));
+    girarRueda(centro(pieza(contador, QStringLiteral("«Descarga vieja» a partir de 90 días"))));
+    EXPECT_EQ(app().stats().avisoBateria(), 15);
+    EXPECT_EQ(app().scanner().diasDescargas(), 90);
+}
+
 TEST_F(PrefsView, thePickerGoesByKeysWithItsListClosed)
 {
     abrirAlta();
