@@ -33,7 +33,7 @@ AjusteNumerico {
         width: 20
         height: 20
         radius: 10
-        color: raton.pressed ? Tema.colores.acento : Tema.colores.superficie
+        color: raton.pressed ? Tema.colores.acento : Tema.colores.sobreAcento
         border.width: 2
         border.color: Tema.colores.acento
         AnilloFoco {
