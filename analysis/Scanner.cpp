@@ -130,23 +130,23 @@ void Scanner::avanzar(const BanderaCancelacion *cancelacion, std::uint64_t vista
 void Scanner::publicarDuplicados(Clasificados clasificados)
 {
     OVANTA_HILO_PRINCIPAL();
-    m_hallado.duplicados = std::exchange(clasificados.duplicados, {});
-    m_hallado.grandes = std::exchange(clasificados.grandes, {});
+    m_duplicados = listaDe(std::exchange(clasificados.duplicados, {}));
+    m_grandes = listaDe(std::exchange(clasificados.grandes, {}));
     m_pendiente = std::move(clasificados);
-    m_desperdicioTotal = ovanta::desperdicioTotal(m_hallado.duplicados);
+    m_desperdicioTotal = ovanta::desperdicioTotal(*m_duplicados);
     Q_EMIT duplicadosChanged();
 }
 
 void Scanner::publicarCarpetas(std::vector<CarpetaPesada> carpetas)
 {
     OVANTA_HILO_PRINCIPAL();
-    m_carpetas = std::move(carpetas);
+    m_carpetas = listaDe(std::move(carpetas));
     m_bytesCarpetas = 0;
-    for (const CarpetaPesada &carpeta : m_carpetas)
+    for (const CarpetaPesada &carpeta : *m_carpetas)
         m_bytesCarpetas = sumar(m_bytesCarpetas, carpeta.bytes);
-    m_hallado.descargasViejas = std::exchange(m_pendiente.descargasViejas, {});
-    m_hallado.capturas = std::exchange(m_pendiente.capturas, {});
-    m_hallado.instaladores = std::exchange(m_pendiente.instaladores, {});
+    m_descargasViejas = listaDe(std::exchange(m_pendiente.descargasViejas, {}));
+    m_capturas = listaDe(std::exchange(m_pendiente.capturas, {}));
+    m_instaladores = listaDe(std::exchange(m_pendiente.instaladores, {}));
     Q_EMIT hallazgosChanged();
 }
 

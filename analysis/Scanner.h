@@ -3,6 +3,7 @@
 #include "analysis/BanderaCancelacion.h"
 #include "analysis/Clasificar.h"
 #include "analysis/GuardianDeCopias.h"
+#include "analysis/Lista.h"
 #include "core/qt/TareaAbandonable.h"
 #include "platform/Plataforma.h"
 
@@ -48,13 +49,14 @@ public:
     const std::vector<std::string> &raices() const { return m_raices; }
     void fijarRaices(std::vector<std::string> raices);
 
-    // What the last analysis found; each stays until the next one replaces it.
-    const std::vector<GrupoDuplicados> &duplicados() const { return m_hallado.duplicados; }
-    const std::vector<ArchivoHallado> &grandes() const { return m_hallado.grandes; }
-    const std::vector<CarpetaPesada> &carpetas() const { return m_carpetas; }
-    const std::vector<ArchivoHallado> &descargasViejas() const { return m_hallado.descargasViejas; }
-    const std::vector<ArchivoHallado> &capturas() const { return m_hallado.capturas; }
-    const std::vector<ArchivoHallado> &instaladores() const { return m_hallado.instaladores; }
+    // What the last analysis found; each stays until the next one replaces it. Never null; who keeps a
+    // list may show it as long as it likes.
+    const Lista<GrupoDuplicados> &duplicados() const { return m_duplicados; }
+    const Lista<ArchivoHallado> &grandes() const { return m_grandes; }
+    const Lista<CarpetaPesada> &carpetas() const { return m_carpetas; }
+    const Lista<ArchivoHallado> &descargasViejas() const { return m_descargasViejas; }
+    const Lista<ArchivoHallado> &capturas() const { return m_capturas; }
+    const Lista<ArchivoHallado> &instaladores() const { return m_instaladores; }
 
     /// Of all duplicates, by their logical size; of all heavy folders.
     std::uint64_t desperdicioTotal() const { return m_desperdicioTotal; }
@@ -104,9 +106,13 @@ private:
     bool m_recorriendo = false;
     QString m_progreso;
     std::uint64_t m_archivosVistos = 0;
-    Clasificados m_hallado;
     Clasificados m_pendiente; ///< what waits for the end of the run
-    std::vector<CarpetaPesada> m_carpetas;
+    Lista<GrupoDuplicados> m_duplicados = listaDe<GrupoDuplicados>({});
+    Lista<ArchivoHallado> m_grandes = listaDe<ArchivoHallado>({});
+    Lista<CarpetaPesada> m_carpetas = listaDe<CarpetaPesada>({});
+    Lista<ArchivoHallado> m_descargasViejas = listaDe<ArchivoHallado>({});
+    Lista<ArchivoHallado> m_capturas = listaDe<ArchivoHallado>({});
+    Lista<ArchivoHallado> m_instaladores = listaDe<ArchivoHallado>({});
     std::uint64_t m_desperdicioTotal = 0;
     std::uint64_t m_bytesCarpetas = 0;
     std::shared_ptr<BanderaCancelacion> m_cancelacion; ///< of the running analysis

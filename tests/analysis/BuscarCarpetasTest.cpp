@@ -21,7 +21,7 @@ std::vector<std::string> rutas(const std::vector<CarpetaPesada> &carpetas)
     return rutas;
 }
 
-TEST(BuscarCarpetas, HallaLasSeisClasesConLasHerramientasDeVerdad)
+TEST(BuscarCarpetas, findsTheSixKindsWithTheRealTools)
 {
     const ArbolDeArchivos arbol;
     for (const char *tipo : {"node_modules", ".venv", "venv", "target", ".next", "build"})
@@ -38,7 +38,7 @@ TEST(BuscarCarpetas, HallaLasSeisClasesConLasHerramientasDeVerdad)
     EXPECT_GE(carpetas.back().bytes, 50'000U);
 }
 
-TEST(BuscarCarpetas, NiBajoLibraryNiMasAllaDeSeisNiveles)
+TEST(BuscarCarpetas, neitherUnderLibraryNorBeyondSixLevels)
 {
     const ArbolDeArchivos arbol;
     arbol.escribir("Library/node_modules/x", "x");
@@ -51,7 +51,7 @@ TEST(BuscarCarpetas, NiBajoLibraryNiMasAllaDeSeisNiveles)
                 ElementsAre(arbol.en("1/2/3/4/5/node_modules")));
 }
 
-TEST(BuscarCarpetas, PideLoJustoAFindYADu)
+TEST(BuscarCarpetas, asksFindAndDuForExactlyWhatItNeeds)
 {
     HerramientasDePrueba herramientas;
     herramientas.alEjecutar = [](const std::string &binario, const auto &) {
@@ -73,7 +73,7 @@ TEST(BuscarCarpetas, PideLoJustoAFindYADu)
     EXPECT_TRUE(herramientas.ultimoTolerarFallo);
 }
 
-TEST(BuscarCarpetas, MideDeDoscientasEnDoscientasYUnaTandaFallidaNoArrastraALasOtras)
+TEST(BuscarCarpetas, measuresTwoHundredAtATimeAndAFailedBatchDoesNotTakeTheOthersAlong)
 {
     HerramientasDePrueba herramientas;
     int tandas = 0;
@@ -94,7 +94,7 @@ TEST(BuscarCarpetas, MideDeDoscientasEnDoscientasYUnaTandaFallidaNoArrastraALasO
     EXPECT_EQ(herramientas.llamadas[1].size(), 202U);
 }
 
-TEST(BuscarCarpetas, LasLineasIlegiblesDeDuSePierdenSolas)
+TEST(BuscarCarpetas, anIllegibleLineOfDuIsLostAlone)
 {
     HerramientasDePrueba herramientas;
     herramientas.alEjecutar = [](const std::string &binario, const auto &) {
@@ -105,7 +105,7 @@ TEST(BuscarCarpetas, LasLineasIlegiblesDeDuSePierdenSolas)
     EXPECT_THAT(rutas(buscarCarpetas(herramientas, "/h", nullptr)), ElementsAre("/h/a\tb/build"));
 }
 
-TEST(BuscarCarpetas, SinFindNoHayCarpetas)
+TEST(BuscarCarpetas, withoutFindThereAreNoFolders)
 {
     HerramientasDePrueba herramientas;
     herramientas.alEjecutar = [](const auto &, const auto &) -> std::string {
@@ -114,7 +114,7 @@ TEST(BuscarCarpetas, SinFindNoHayCarpetas)
     EXPECT_THAT(buscarCarpetas(herramientas, "/h", nullptr), IsEmpty());
 }
 
-TEST(BuscarCarpetas, DetenidoEntreTandasSueltaLoMedido)
+TEST(BuscarCarpetas, stoppedBetweenBatchesItDropsWhatWasMeasured)
 {
     BanderaCancelacion bandera;
     HerramientasDePrueba herramientas;
@@ -132,7 +132,7 @@ TEST(BuscarCarpetas, DetenidoEntreTandasSueltaLoMedido)
     EXPECT_EQ(herramientas.llamadas.size(), 2U);
 }
 
-TEST(BuscarCarpetas, DetenidoAntesNoLlamaANadie)
+TEST(BuscarCarpetas, stoppedBeforehandItCallsNobody)
 {
     BanderaCancelacion bandera;
     bandera.cancelar();

@@ -38,7 +38,7 @@ protected:
     ListaArchivos archivos;
 };
 
-TEST_F(Clasificacion, LosSesentaMayoresVanDeMayorAMenor)
+TEST_F(Clasificacion, theSixtyBiggestComeBiggestFirst)
 {
     for (std::uint64_t i = 1; i <= 61; ++i)
         agregar("/h/Downloads", "n" + std::to_string(i), i);
@@ -48,7 +48,7 @@ TEST_F(Clasificacion, LosSesentaMayoresVanDeMayorAMenor)
     EXPECT_EQ(grandes.back().bytes, 2U);
 }
 
-TEST_F(Clasificacion, ElSexagesimoPrimeroPuedeEstarEnLasOtrasListas)
+TEST_F(Clasificacion, theSixtyFirstIsNotAmongTheBigOnesButMayStandInTheOtherLists)
 {
     for (std::uint64_t i = 2; i <= 61; ++i)
         agregar("/h/x", "n" + std::to_string(i), i);
@@ -59,21 +59,21 @@ TEST_F(Clasificacion, ElSexagesimoPrimeroPuedeEstarEnLasOtrasListas)
         EXPECT_THAT(rutas(*lista), ElementsAre("/h/Downloads/captura.dmg"));
 }
 
-TEST_F(Clasificacion, ConIgualTamanoSeGuardaElOrdenDelRecorrido)
+TEST_F(Clasificacion, equalSizesKeepTheOrderOfTheWalk)
 {
     for (const char *nombre : {"c", "a", "b"})
         agregar("/h", nombre, 5);
     EXPECT_THAT(rutas(clasificados().grandes), ElementsAre("/h/c", "/h/a", "/h/b"));
 }
 
-TEST_F(Clasificacion, UnArchivoDeLaFechaLimiteExactaNoEsViejo)
+TEST_F(Clasificacion, aFileOfExactlyTheLimitDateIsNotOld)
 {
     agregar("/h/Downloads", "justo", 1, ahora - 90 * 24h);
     agregar("/h/Downloads", "viejo", 1, ahora - 90 * 24h - 1s);
     EXPECT_THAT(rutas(clasificados().descargasViejas), ElementsAre("/h/Downloads/viejo"));
 }
 
-TEST_F(Clasificacion, CuentaLoHondoDeDescargasYNoOtraCarpetaDelMismoNombre)
+TEST_F(Clasificacion, whatLiesDeepInDownloadsCountsAndAnotherFolderOfThatNameDoesNot)
 {
     const Fecha vieja = ahora - 365 * 24h;
     agregar("/h/Downloads/sub/carpeta", "a", 1, vieja);
@@ -82,7 +82,7 @@ TEST_F(Clasificacion, CuentaLoHondoDeDescargasYNoOtraCarpetaDelMismoNombre)
     EXPECT_THAT(rutas(clasificados().descargasViejas), ElementsAre("/h/Downloads/sub/carpeta/a"));
 }
 
-TEST_F(Clasificacion, LosGruposVanPorLoQueDesperdician)
+TEST_F(Clasificacion, theGroupsAreSortedByWhatTheyWaste)
 {
     const auto grupo = [](const std::string &id, std::uint64_t bytes) {
         ArchivoHallado a, b;
@@ -97,7 +97,7 @@ TEST_F(Clasificacion, LosGruposVanPorLoQueDesperdician)
     EXPECT_THAT(ids, ElementsAre("tres", "otro tres", "uno"));
 }
 
-TEST(PareceCaptura, SoloDecideElNombre)
+TEST(PareceCaptura, onlyTheNameDecides)
 {
     for (const char *nombre : {"Captura 2.png", "captura-de-tesis.pdf", "SCREENSHOT_1.txt",
                                "Screen Shot 2020.png", "mi Captura de pantalla.jpg"})
@@ -106,7 +106,7 @@ TEST(PareceCaptura, SoloDecideElNombre)
         EXPECT_FALSE(pareceCaptura(nombre)) << nombre;
 }
 
-TEST(EsInstalador, PorLaExtensionEnMinusculas)
+TEST(EsInstalador, theLowerCaseExtensionDecides)
 {
     for (const char *nombre : {"a.dmg", "a.PKG", "a.b.mpkg", "debian.iso"})
         EXPECT_TRUE(esInstalador(nombre)) << nombre;

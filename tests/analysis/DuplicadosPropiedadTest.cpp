@@ -67,7 +67,7 @@ Grupos hallados(const ListaArchivos &archivos, AccesoArchivos &acceso)
     return grupos;
 }
 
-TEST(DuplicadosPropiedad, ElEmbudoDaLoMismoQueCompararTodoSinAtajos)
+TEST(DuplicadosPropiedad, theFunnelGivesWhatComparingEverythingGives)
 {
     for (unsigned semilla = 0; semilla < 40; ++semilla) {
         const ArbolEnredado enredo(semilla);
@@ -79,7 +79,7 @@ TEST(DuplicadosPropiedad, ElEmbudoDaLoMismoQueCompararTodoSinAtajos)
     }
 }
 
-TEST(DuplicadosPropiedad, TambienConErroresDeLecturaYArchivosQueNoSeAbren)
+TEST(DuplicadosPropiedad, alsoWithReadErrorsAndFilesThatCannotBeOpened)
 {
     for (unsigned semilla = 100; semilla < 160; ++semilla) {
         ArbolEnredado enredo(semilla);

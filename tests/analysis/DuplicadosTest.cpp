@@ -30,7 +30,7 @@ protected:
     AccesoConFallos acceso;
 };
 
-TEST_F(Duplicados, LosQueDifierenEnLaCabezaNoSeLeenMas)
+TEST_F(Duplicados, filesThatDifferInTheirHeadAreNotReadAnyFurther)
 {
     arbol.escribir("a", "a" + std::string(300'000, 'x'));
     arbol.escribir("b", "b" + std::string(300'000, 'x'));
@@ -39,7 +39,7 @@ TEST_F(Duplicados, LosQueDifierenEnLaCabezaNoSeLeenMas)
     EXPECT_LE(acceso.leidosDe(arbol.en("b")), 65536U);
 }
 
-TEST_F(Duplicados, UnTamanoUnicoNoSeAbre)
+TEST_F(Duplicados, aFileAloneWithItsSizeIsNotOpened)
 {
     arbol.escribir("a", "uno");
     arbol.escribir("b", "cuatro");
@@ -47,7 +47,7 @@ TEST_F(Duplicados, UnTamanoUnicoNoSeAbre)
     EXPECT_EQ(acceso.leidosDe(arbol.en("a")), 0U);
 }
 
-TEST_F(Duplicados, UnMebibyteQueDifiereEnElUltimoByteSeDistingue)
+TEST_F(Duplicados, aMebibyteThatDiffersInItsLastByteIsToldApart)
 {
     const std::string comun((1 << 20) - 1, 'x');
     arbol.escribir("a", comun + "a");
@@ -58,7 +58,7 @@ TEST_F(Duplicados, UnMebibyteQueDifiereEnElUltimoByteSeDistingue)
     EXPECT_THAT(nombres(grupos[0]), UnorderedElementsAre("a", "c"));
 }
 
-TEST_F(Duplicados, HastaLaCabezaLaClaveEsCortaYDesdeUnByteMasElDigesto)
+TEST_F(Duplicados, upToTheHeadTheKeyIsShortAndFromOneByteMoreItIsTheDigest)
 {
     for (const char *nombre : {"a", "b"})
         arbol.escribir(nombre, std::string(65536, '\0'));
@@ -75,7 +75,7 @@ TEST_F(Duplicados, HastaLaCabezaLaClaveEsCortaYDesdeUnByteMasElDigesto)
     EXPECT_EQ(grupos[0].bytes, 65537U);
 }
 
-TEST_F(Duplicados, DosEnlacesFisicosFormanUnGrupoQueNoPrometeEspacio)
+TEST_F(Duplicados, twoHardLinksFormAGroupThatPromisesNoSpace)
 {
     arbol.escribir("a", "contenido");
     arbol.enlazar("a", "b");
@@ -85,7 +85,7 @@ TEST_F(Duplicados, DosEnlacesFisicosFormanUnGrupoQueNoPrometeEspacio)
     EXPECT_EQ(grupos[0].desperdiciado(), 0U);
 }
 
-TEST_F(Duplicados, CadaInodoSeLeeUnaSolaVez)
+TEST_F(Duplicados, eachInodeIsReadOnlyOnce)
 {
     arbol.escribir("a", std::string(1000, 'x'));
     for (const char *otro : {"b", "c", "d"})
@@ -99,7 +99,7 @@ TEST_F(Duplicados, CadaInodoSeLeeUnaSolaVez)
     EXPECT_EQ(acceso.leidosDe(arbol.en("a")) + acceso.leidosDe(arbol.en("e")), 3000U);
 }
 
-TEST_F(Duplicados, ConMinimoCeroLosVaciosFormanUnGrupoSinDesperdicio)
+TEST_F(Duplicados, withAMinimumOfZeroTheEmptyFilesFormAGroupWithoutWaste)
 {
     for (int i = 0; i < 40; ++i)
         arbol.escribir(std::to_string(i), "");
@@ -110,7 +110,7 @@ TEST_F(Duplicados, ConMinimoCeroLosVaciosFormanUnGrupoSinDesperdicio)
     EXPECT_THAT(grupos[0].id, StartsWith("corto-0-e3b0c442"));
 }
 
-TEST_F(Duplicados, UnArchivoQueSeEsfumaTrasElRecorridoCaeSinMas)
+TEST_F(Duplicados, aFileThatVanishesAfterTheWalkJustDropsOut)
 {
     for (const char *nombre : {"a", "b", "c"})
         arbol.escribir(nombre, "igual");
@@ -121,7 +121,7 @@ TEST_F(Duplicados, UnArchivoQueSeEsfumaTrasElRecorridoCaeSinMas)
     EXPECT_THAT(nombres(grupos[0]), UnorderedElementsAre("a", "c"));
 }
 
-TEST_F(Duplicados, UnNombreEsfumadoNoSeLlevaALosOtrosDelMismoArchivo)
+TEST_F(Duplicados, aVanishedNameDoesNotTakeTheOthersOfItsFileAlong)
 {
     arbol.escribir("a", "igual");
     arbol.enlazar("a", "b");
@@ -136,7 +136,7 @@ TEST_F(Duplicados, UnNombreEsfumadoNoSeLlevaALosOtrosDelMismoArchivo)
         EXPECT_NE(copia.ruta, primero);
 }
 
-TEST_F(Duplicados, UnArchivoQueNoSeAbreCaeSinMas)
+TEST_F(Duplicados, aFileThatCannotBeOpenedJustDropsOut)
 {
     for (const char *nombre : {"a", "b"})
         arbol.escribir(nombre, "igual");
@@ -144,7 +144,7 @@ TEST_F(Duplicados, UnArchivoQueNoSeAbreCaeSinMas)
     EXPECT_THAT(buscar(), IsEmpty());
 }
 
-TEST_F(Duplicados, UnErrorDeLecturaEsComoElFinalDelArchivo)
+TEST_F(Duplicados, aReadErrorCountsAsTheEndOfTheFile)
 {
     arbol.escribir("a", std::string(200'000, 'x') + "uno");
     arbol.escribir("b", std::string(200'000, 'x') + "dos");
@@ -155,7 +155,7 @@ TEST_F(Duplicados, UnErrorDeLecturaEsComoElFinalDelArchivo)
     EXPECT_EQ(grupos[0].copias.size(), 2U);
 }
 
-TEST_F(Duplicados, ElMasAntiguoVaPrimeroYAIgualFechaMandaElOrdenDelRecorrido)
+TEST_F(Duplicados, theOldestComesFirstAndEqualDatesKeepTheOrderOfTheWalk)
 {
     for (const char *nombre : {"a", "b", "c", "d"}) {
         arbol.escribir(nombre, "igual");
@@ -174,7 +174,7 @@ TEST_F(Duplicados, ElMasAntiguoVaPrimeroYAIgualFechaMandaElOrdenDelRecorrido)
     EXPECT_EQ(rutas, esperados);
 }
 
-TEST_F(Duplicados, UnConjuntoMayorQueLosQueSeComparanALaVezSigueSiendoUnGrupo)
+TEST_F(Duplicados, aSetBiggerThanWhatIsComparedAtOnceStaysOneGroup)
 {
     for (int i = 0; i < 150; ++i)
         arbol.escribir(std::to_string(i), std::string(70'000, 'x'));
@@ -183,7 +183,7 @@ TEST_F(Duplicados, UnConjuntoMayorQueLosQueSeComparanALaVezSigueSiendoUnGrupo)
     EXPECT_EQ(grupos[0].copias.size(), 150U);
 }
 
-TEST_F(Duplicados, DetenidoNoDaNada)
+TEST_F(Duplicados, stoppedItGivesNothing)
 {
     for (const char *nombre : {"a", "b"})
         arbol.escribir(nombre, std::string(200'000, 'x'));
@@ -192,7 +192,7 @@ TEST_F(Duplicados, DetenidoNoDaNada)
     EXPECT_THAT(buscarDuplicados(arbol.archivos(), acceso, &bandera), IsEmpty());
 }
 
-TEST_F(Duplicados, DetenidoEnMedioDeUnArchivoGrandeNoDaNada)
+TEST_F(Duplicados, stoppedInTheMiddleOfABigFileItGivesNothing)
 {
     struct Detiene : AccesoConFallos
     {
@@ -208,7 +208,7 @@ TEST_F(Duplicados, DetenidoEnMedioDeUnArchivoGrandeNoDaNada)
     EXPECT_THAT(buscarDuplicados(arbol.archivos(), detiene, &detiene.bandera), IsEmpty());
 }
 
-TEST_F(Duplicados, LeerNoHaceQueUnArchivoParezcaUsado)
+TEST_F(Duplicados, readingDoesNotMakeAFileLookUsed)
 {
     const timespec antiguo[2]{{1'500'000'000, 0}, {1'500'000'000, 0}};
     for (const char *nombre : {"a", "b"}) {

@@ -22,20 +22,20 @@ protected:
     AccesoConFallos acceso;
 };
 
-TEST_F(EspacioReal, UnArchivoLibreLosBloquesQueOcupa)
+TEST_F(EspacioReal, aFileFreesTheBlocksThatItTakes)
 {
     arbol.escribir("a", std::string(100'000, 'x'));
     EXPECT_GE(de({"a"}), 100'000U);
     EXPECT_LT(de({"a"}), 150'000U);
 }
 
-TEST_F(EspacioReal, LosHuecosNoOcupan)
+TEST_F(EspacioReal, holesTakeNoPlace)
 {
     arbol.escribirHueco("a", 1ULL << 40);
     EXPECT_LT(de({"a"}), 1U << 20);
 }
 
-TEST_F(EspacioReal, UnEnlaceFisicoNoLiberaNadaMientrasQuedeOtroNombre)
+TEST_F(EspacioReal, aHardLinkFreesNothingWhileAnotherNameStays)
 {
     arbol.escribir("a", std::string(100'000, 'x'));
     arbol.enlazar("a", "b");
@@ -44,7 +44,7 @@ TEST_F(EspacioReal, UnEnlaceFisicoNoLiberaNadaMientrasQuedeOtroNombre)
     EXPECT_GE(de({"a", "b"}), 100'000U);
 }
 
-TEST_F(EspacioReal, LosBloquesCompartidosConUnClonSeQuedan)
+TEST_F(EspacioReal, blocksSharedWithACloneStay)
 {
     struct ConClon : AccesoConFallos
     {
@@ -54,7 +54,7 @@ TEST_F(EspacioReal, LosBloquesCompartidosConUnClonSeQuedan)
     EXPECT_EQ(espacioReal({arbol.en("a")}, clon), de({"a"}) - 60'000);
 }
 
-TEST_F(EspacioReal, LoQueYaNoEstaNoCuenta)
+TEST_F(EspacioReal, whatIsNoLongerThereDoesNotCount)
 {
     EXPECT_EQ(de({"no existe"}), 0U);
 }

@@ -29,22 +29,22 @@ std::vector<std::string> rutas(const std::vector<ArchivoHallado> &archivos)
     return rutas;
 }
 
-TEST(GrupoDuplicados, DosEnlacesFisicosNoPrometenEspacio)
+TEST(GrupoDuplicados, twoHardLinksPromiseNoSpace)
 {
     EXPECT_EQ(grupo({copia("/a", "1:1"), copia("/b", "1:1")}).desperdiciado(), 0U);
 }
 
-TEST(GrupoDuplicados, DeTresConDosEnlacesFisicosSobraUno)
+TEST(GrupoDuplicados, ofThreeWithTwoHardLinksOneIsExtra)
 {
     EXPECT_EQ(grupo({copia("/a", "1:1"), copia("/b", "1:2"), copia("/c", "1:1")}).desperdiciado(), 100U);
 }
 
-TEST(GrupoDuplicados, LosClonesTienenInodoPropioYCuentanEnteros)
+TEST(GrupoDuplicados, clonesHaveInodesOfTheirOwnAndCountInFull)
 {
     EXPECT_EQ(grupo({copia("/a", "1:1"), copia("/b", "1:2"), copia("/c", "1:3")}).desperdiciado(), 200U);
 }
 
-TEST(GrupoDuplicados, SinIdentidadCuentaCadaRuta)
+TEST(GrupoDuplicados, withoutAnIdentityEachPathCounts)
 {
     const GrupoDuplicados sin = grupo({copia("/a", {}), copia("/b", {})});
     EXPECT_EQ(sin.desperdiciado(), 100U);
@@ -53,13 +53,13 @@ TEST(GrupoDuplicados, SinIdentidadCuentaCadaRuta)
     EXPECT_THAT(rutas(sin.rutasMismaCopiaFisica(sin.copias[1])), ElementsAre("/b"));
 }
 
-TEST(GrupoDuplicados, VacioNoDesperdiciaNiCasaConNadie)
+TEST(GrupoDuplicados, anEmptyOneWastesNothingAndMatchesNobody)
 {
     EXPECT_EQ(grupo({}).desperdiciado(), 0U);
     EXPECT_FALSE(grupo({}).esMismaCopiaFisica(copia("/a", "1:1")));
 }
 
-TEST(GrupoDuplicados, ReconoceLosEnlacesDelOriginalYLosDeOtraCopia)
+TEST(GrupoDuplicados, knowsTheLinksOfTheOriginalAndThoseOfAnotherCopy)
 {
     const GrupoDuplicados g =
         grupo({copia("/a", "1:1"), copia("/b", "1:2"), copia("/c", "1:1"), copia("/d", "1:2")});
@@ -68,14 +68,14 @@ TEST(GrupoDuplicados, ReconoceLosEnlacesDelOriginalYLosDeOtraCopia)
     EXPECT_THAT(rutas(g.rutasMismaCopiaFisica(g.copias[3])), ElementsAre("/b", "/d"));
 }
 
-TEST(GrupoDuplicados, ElTotalSumaTodosLosGrupos)
+TEST(GrupoDuplicados, theTotalAddsUpAllGroups)
 {
     EXPECT_EQ(desperdicioTotal({grupo({copia("/a", "1:1"), copia("/b", "1:2")}),
                                 grupo({copia("/c", "1:3"), copia("/d", "1:4"), copia("/e", "1:5")})}),
               300U);
 }
 
-TEST(GrupoDuplicadosDeathTest, UnDesbordamientoTerminaElPrograma)
+TEST(GrupoDuplicadosDeathTest, anOverflowEndsTheProgram)
 {
     GrupoDuplicados enorme = grupo({copia("/a", "1:1"), copia("/b", "1:2"), copia("/c", "1:3")});
     enorme.bytes = UINT64_MAX;

@@ -36,44 +36,44 @@ protected:
     std::vector<GrupoDuplicados> grupos;
 };
 
-TEST_F(Guardian, UnaCopiaMarcadaPasaMientrasQuedeOtra)
+TEST_F(Guardian, aMarkedCopyMayGoWhileAnotherStays)
 {
     EXPECT_TRUE(lote({"b", "c"})->permitir(arbol.en("b")));
 }
 
-TEST_F(Guardian, SiTodasEstanMarcadasNoSaleNinguna)
+TEST_F(Guardian, whereAllAreMarkedNoneGoes)
 {
     const auto todas = lote({"a", "b", "c"});
     for (const char *nombre : {"a", "b", "c"})
         EXPECT_FALSE(todas->permitir(arbol.en(nombre)));
 }
 
-TEST_F(Guardian, LoQueNoSeMarcoNoSale)
+TEST_F(Guardian, whatWasNotMarkedDoesNotGo)
 {
     EXPECT_FALSE(lote({"b"})->permitir(arbol.en("c")));
 }
 
-TEST_F(Guardian, UnaCopiaQueCambioSeQueda)
+TEST_F(Guardian, aCopyThatChangedStays)
 {
     arbol.escribir("b", "otro!");
     EXPECT_FALSE(lote({"b"})->permitir(arbol.en("b")));
 }
 
-TEST_F(Guardian, UnaCopiaConElMismoContenidoPeroOtroArchivoSeQueda)
+TEST_F(Guardian, aCopyOfTheSameContentThatIsAnotherFileStays)
 {
     std::filesystem::remove(arbol.en("b"));
     arbol.escribir("b", "igual");
     EXPECT_FALSE(lote({"b"})->permitir(arbol.en("b")));
 }
 
-TEST_F(Guardian, SiLasOtrasDesaparecieronLaUltimaSeQueda)
+TEST_F(Guardian, whereTheOthersVanishedTheLastOneStays)
 {
     std::filesystem::remove(arbol.en("a"));
     std::filesystem::remove(arbol.en("c"));
     EXPECT_FALSE(lote({"b"})->permitir(arbol.en("b")));
 }
 
-TEST_F(Guardian, UnaSustituidaPorUnEnlaceNoVale)
+TEST_F(Guardian, aCopyReplacedByALinkDoesNotCount)
 {
     std::filesystem::rename(arbol.en("a"), arbol.en("movida"));
     HogarTemporal::enlace(arbol.en("a"), arbol.en("b"));
@@ -81,7 +81,7 @@ TEST_F(Guardian, UnaSustituidaPorUnEnlaceNoVale)
     EXPECT_FALSE(lote({"b"})->permitir(arbol.en("b")));
 }
 
-TEST_F(Guardian, UnSegundoLoteNoPuedeLlevarseLaQueElPrimeroConserva)
+TEST_F(Guardian, aSecondBatchCannotTakeTheOneThatTheFirstCountsOn)
 {
     const auto primero = lote({"b", "c"});
     ASSERT_TRUE(primero->permitir(arbol.en("b")));
@@ -89,7 +89,7 @@ TEST_F(Guardian, UnSegundoLoteNoPuedeLlevarseLaQueElPrimeroConserva)
     EXPECT_FALSE(GuardianDeCopias::Lote(guardian).permitir(arbol.en("a"))) << "nor a batch of big files";
 }
 
-TEST_F(Guardian, LaQueYaSaleEnOtroLoteNoCuentaComoCopia)
+TEST_F(Guardian, aCopyOnItsWayOutInAnotherBatchDoesNotCount)
 {
     GuardianDeCopias::Lote grandes(guardian);
     ASSERT_TRUE(grandes.permitir(arbol.en("a")));
@@ -97,7 +97,7 @@ TEST_F(Guardian, LaQueYaSaleEnOtroLoteNoCuentaComoCopia)
     EXPECT_FALSE(lote({"b"})->permitir(arbol.en("b")));
 }
 
-TEST_F(Guardian, TerminadoElLoteSeLevantaLaReserva)
+TEST_F(Guardian, whenTheBatchEndsItsReservationIsLifted)
 {
     ASSERT_TRUE(lote({"b"})->permitir(arbol.en("b")));
     EXPECT_TRUE(GuardianDeCopias::Lote(guardian).permitir(arbol.en("a")));
@@ -105,7 +105,7 @@ TEST_F(Guardian, TerminadoElLoteSeLevantaLaReserva)
 
 /// Random marks over random groups, two batches at once, and somebody who changes files meanwhile: of
 /// what was compared and left alone, every content keeps a copy.
-TEST(GuardianPropiedad, NuncaSaleLaUltimaCopiaDeUnContenido)
+TEST(GuardianPropiedad, theLastCopyOfAContentNeverGoes)
 {
     for (unsigned semilla = 0; semilla < 60; ++semilla) {
         std::mt19937 azar(semilla);

@@ -15,7 +15,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using Rutas = std::vector<std::string>;
 
-TEST(Recorrer, UnArchivoDelMinimoEsCandidatoYUnByteMenosNo)
+TEST(Recorrer, aFileOfTheMinimumIsACandidateAndOneByteLessIsNot)
 {
     const ArbolDeArchivos arbol;
     arbol.escribir("justo", std::string(100, 'x'));
@@ -23,7 +23,7 @@ TEST(Recorrer, UnArchivoDelMinimoEsCandidatoYUnByteMenosNo)
     EXPECT_THAT(relativas(arbol.archivos(100), arbol.raiz()), ElementsAre("justo"));
 }
 
-TEST(Recorrer, NiSigueNiListaEnlaces)
+TEST(Recorrer, neitherFollowsNorListsLinks)
 {
     const ArbolDeArchivos arbol;
     arbol.escribir("real/archivo", "uno");
@@ -33,7 +33,7 @@ TEST(Recorrer, NiSigueNiListaEnlaces)
     EXPECT_THAT(relativas(arbol.archivos(), arbol.raiz()), ElementsAre("real/archivo"));
 }
 
-TEST(Recorrer, UnaRaizQueEsUnEnlaceSeSigue)
+TEST(Recorrer, aRootThatIsALinkIsFollowed)
 {
     const ArbolDeArchivos arbol;
     arbol.escribir("otro disco/archivo", "uno");
@@ -45,7 +45,7 @@ TEST(Recorrer, UnaRaizQueEsUnEnlaceSeSigue)
                 ElementsAre("Descargas/archivo"));
 }
 
-TEST(Recorrer, NoEntraEnPaquetesPorSuExtensionEnMinusculas)
+TEST(Recorrer, doesNotEnterPackagesByTheirLowerCaseExtension)
 {
     const ArbolDeArchivos arbol;
     for (const char *carpeta : {"Foo.app", "Fotos.photoslibrary", "Bar.BUNDLE", "app", "Foo.apps"})
@@ -53,7 +53,7 @@ TEST(Recorrer, NoEntraEnPaquetesPorSuExtensionEnMinusculas)
     EXPECT_THAT(relativas(arbol.archivos(), arbol.raiz()), ElementsAre("Foo.apps/dentro", "app/dentro"));
 }
 
-TEST(Recorrer, PasaDeLargoPorNombresIgnoradosYOcultos)
+TEST(Recorrer, passesIgnoredAndHiddenNamesBy)
 {
     const ArbolDeArchivos arbol;
     for (const char *ruta :
@@ -64,7 +64,7 @@ TEST(Recorrer, PasaDeLargoPorNombresIgnoradosYOcultos)
     EXPECT_THAT(relativas(arbol.archivos(), arbol.raiz()), ElementsAre("a/library/x", "a/visible"));
 }
 
-TEST(Recorrer, LoProtegidoQuedaFueraConTodoLoDeDebajo)
+TEST(Recorrer, whatIsProtectedStaysOutWithAllBelowIt)
 {
     const ArbolDeArchivos arbol;
     arbol.escribir("a/x", "uno");
@@ -75,7 +75,7 @@ TEST(Recorrer, LoProtegidoQuedaFueraConTodoLoDeDebajo)
     EXPECT_THAT(relativas(recorrer(recorrido, acceso, nullptr), arbol.raiz()), ElementsAre("b/x"));
 }
 
-TEST(Recorrer, TuberiasYZocalosNoSonArchivosYNadieLosAbre)
+TEST(Recorrer, pipesAndSocketsAreNoFilesAndNobodyOpensThem)
 {
     const ArbolDeArchivos arbol;
     ASSERT_EQ(::mkfifo(arbol.en("tuberia").c_str(), 0600), 0);
@@ -88,7 +88,7 @@ TEST(Recorrer, TuberiasYZocalosNoSonArchivosYNadieLosAbre)
     ::close(zocalo);
 }
 
-TEST(Recorrer, UnMarcadorDeLaNubeNoSeListaPorGrandeQueSea)
+TEST(Recorrer, aCloudPlaceholderIsNotListedHoweverBig)
 {
     struct ConNube : AccesoConFallos
     {
@@ -100,7 +100,7 @@ TEST(Recorrer, UnMarcadorDeLaNubeNoSeListaPorGrandeQueSea)
     EXPECT_THAT(relativas(recorrer(arbol.recorrido(), acceso, nullptr), arbol.raiz()), ElementsAre("aqui"));
 }
 
-TEST(Recorrer, CadaCarpetaSeRecorreUnaVezAunqueSeNombreDos)
+TEST(Recorrer, eachFolderIsWalkedOnceThoughNamedTwice)
 {
     const ArbolDeArchivos arbol;
     arbol.escribir("a/x", "uno");
@@ -110,7 +110,7 @@ TEST(Recorrer, CadaCarpetaSeRecorreUnaVezAunqueSeNombreDos)
     EXPECT_THAT(relativas(recorrer(recorrido, acceso, nullptr), arbol.raiz()), ElementsAre("a/x"));
 }
 
-TEST(Recorrer, NuncaEntraEnUnSistemaDeArchivosVirtual)
+TEST(Recorrer, neverEntersAVirtualFileSystem)
 {
     AccesoArchivosLinux acceso;
     Recorrido recorrido;
@@ -118,7 +118,7 @@ TEST(Recorrer, NuncaEntraEnUnSistemaDeArchivosVirtual)
     EXPECT_TRUE(recorrer(recorrido, acceso, nullptr).empty());
 }
 
-TEST(Recorrer, DetenidoNoDaListaParcial)
+TEST(Recorrer, stoppedItGivesNoPartialList)
 {
     const ArbolDeArchivos arbol;
     for (int i = 0; i < 5000; ++i)
@@ -130,7 +130,7 @@ TEST(Recorrer, DetenidoNoDaListaParcial)
     EXPECT_TRUE(archivos.empty());
 }
 
-TEST(Recorrer, AvisaCadaDosMilEntradasYAlFinal)
+TEST(Recorrer, tellsOfEveryTwoThousandEntriesAndOfTheEnd)
 {
     const ArbolDeArchivos arbol;
     for (int i = 0; i < 4100; ++i)
@@ -141,7 +141,7 @@ TEST(Recorrer, AvisaCadaDosMilEntradasYAlFinal)
     EXPECT_THAT(avisos, ElementsAre(2000, 4000, 4101)) << "the folder itself is an entry too";
 }
 
-TEST(Recorrer, UnaCarpetaIlegibleSePasaPorAlto)
+TEST(Recorrer, anUnreadableFolderIsPassedBy)
 {
     if (::geteuid() == 0) GTEST_SKIP() << "root reads everything";
     const ArbolDeArchivos arbol;
@@ -153,7 +153,7 @@ TEST(Recorrer, UnaCarpetaIlegibleSePasaPorAlto)
     EXPECT_THAT(relativas(archivos, arbol.raiz()), ElementsAre("abierta/x"));
 }
 
-TEST(Recorrer, LlegaACarpetasMasHondasQueElCaminoMasLargo)
+TEST(Recorrer, reachesFoldersDeeperThanTheLongestPath)
 {
     const ArbolDeArchivos arbol;
     constexpr int hondura = 4000;
@@ -181,14 +181,14 @@ TEST(Recorrer, LlegaACarpetasMasHondasQueElCaminoMasLargo)
     EXPECT_EQ(std::system(("rm -rf '" + arbol.en("nivel") + "'").c_str()), 0);
 }
 
-TEST(Recorrer, UnNombreQueNoEsUtf8LlegaEnteroByteAByte)
+TEST(Recorrer, aNameThatIsNotUtf8ArrivesByteByByte)
 {
     const ArbolDeArchivos arbol;
     arbol.escribir("ca\xC3\xB1\xFF/\xE9t\xE9\n.txt", "uno");
     EXPECT_THAT(relativas(arbol.archivos(), arbol.raiz()), ElementsAre("ca\xC3\xB1\xFF/\xE9t\xE9\n.txt"));
 }
 
-TEST(Recorrer, UnaFechaDisparatadaSeQuedaEnElBordeDeLoQueCabe)
+TEST(Recorrer, anAbsurdDateStopsAtTheEdgeOfWhatFits)
 {
     const ArbolDeArchivos arbol;
     arbol.escribir("futuro", "uno");

@@ -54,24 +54,24 @@ protected:
     std::unique_ptr<Scanner> scanner;
 };
 
-TEST_F(ScannerTest, PublicaTodoLoQueHalla)
+TEST_F(ScannerTest, publishesAllThatItFinds)
 {
     llenar();
     analizar();
-    ASSERT_THAT(scanner->duplicados(), SizeIs(1));
+    ASSERT_THAT(*scanner->duplicados(), SizeIs(1));
     EXPECT_EQ(scanner->desperdicioTotal(), 5U);
-    EXPECT_THAT(scanner->grandes(), SizeIs(2));
-    EXPECT_THAT(scanner->descargasViejas(), SizeIs(2));
-    EXPECT_THAT(scanner->capturas(), SizeIs(1));
-    EXPECT_THAT(scanner->instaladores(), SizeIs(2));
-    EXPECT_THAT(scanner->carpetas(), SizeIs(1));
+    EXPECT_THAT(*scanner->grandes(), SizeIs(2));
+    EXPECT_THAT(*scanner->descargasViejas(), SizeIs(2));
+    EXPECT_THAT(*scanner->capturas(), SizeIs(1));
+    EXPECT_THAT(*scanner->instaladores(), SizeIs(2));
+    EXPECT_THAT(*scanner->carpetas(), SizeIs(1));
     EXPECT_EQ(scanner->bytesCarpetas(), 4096U);
     EXPECT_EQ(scanner->archivosVistos(), 2U);
     EXPECT_FALSE(scanner->trabajando());
     EXPECT_EQ(scanner->progreso(), QString());
 }
 
-TEST_F(ScannerTest, EmpezarDosVecesSeguidasLoCorreUnaVez)
+TEST_F(ScannerTest, startingTwiceInARowRunsItOnce)
 {
     llenar();
     auto primera = scanner->analizar();
@@ -81,15 +81,15 @@ TEST_F(ScannerTest, EmpezarDosVecesSeguidasLoCorreUnaVez)
     EXPECT_EQ(plataforma.m_herramientas.llamadas.size(), 2U);
 }
 
-TEST_F(ScannerTest, SinNingunaCarpetaLasListasQuedanVaciasYLasDependenciasSeBuscan)
+TEST_F(ScannerTest, withNoneOfTheFoldersTheListsAreEmptyAndTheDependenciesAreSearched)
 {
     analizar();
-    EXPECT_THAT(scanner->duplicados(), IsEmpty());
-    EXPECT_THAT(scanner->grandes(), IsEmpty());
-    EXPECT_THAT(scanner->carpetas(), SizeIs(1));
+    EXPECT_THAT(*scanner->duplicados(), IsEmpty());
+    EXPECT_THAT(*scanner->grandes(), IsEmpty());
+    EXPECT_THAT(*scanner->carpetas(), SizeIs(1));
 }
 
-TEST_F(ScannerTest, LaFechaLimiteYElMinimoSonLosDeLosAjustes)
+TEST_F(ScannerTest, theLimitDateAndTheMinimumAreThoseOfTheSettings)
 {
     llenar(std::string(1 << 20, 'x'));
     arbol.escribir("Downloads/pequeño", std::string((1 << 20) - 1, 'x'));
@@ -97,10 +97,10 @@ TEST_F(ScannerTest, LaFechaLimiteYElMinimoSonLosDeLosAjustes)
     scanner->fijarDiasDescargas(36'000);
     analizar();
     EXPECT_EQ(scanner->archivosVistos(), 2U);
-    EXPECT_THAT(scanner->descargasViejas(), IsEmpty());
+    EXPECT_THAT(*scanner->descargasViejas(), IsEmpty());
 }
 
-TEST_F(ScannerTest, LosAvancesDicenPorDondeVa)
+TEST_F(ScannerTest, theProgressTellsWhereItIs)
 {
     for (int i = 0; i < 2500; ++i)
         arbol.escribir("Downloads/" + std::to_string(i), "x");
@@ -115,7 +115,7 @@ TEST_F(ScannerTest, LosAvancesDicenPorDondeVa)
     EXPECT_EQ(avances.back(), QString());
 }
 
-TEST_F(ScannerTest, DetenerEnElRecorridoDejaLasSeisListasComoEstaban)
+TEST_F(ScannerTest, aStopDuringTheWalkLeavesAllSixListsAsTheyWere)
 {
     llenar();
     analizar();
@@ -125,16 +125,16 @@ TEST_F(ScannerTest, DetenerEnElRecorridoDejaLasSeisListasComoEstaban)
             scanner.get(), [this] { scanner->detener(); }, Qt::BlockingQueuedConnection);
     };
     analizar();
-    EXPECT_EQ(scanner->duplicados().front().copias.size(), 2U);
-    EXPECT_THAT(scanner->grandes(), SizeIs(2));
-    EXPECT_THAT(scanner->capturas(), SizeIs(1));
-    EXPECT_THAT(scanner->instaladores(), SizeIs(2));
-    EXPECT_THAT(scanner->descargasViejas(), SizeIs(2));
-    EXPECT_THAT(scanner->carpetas(), SizeIs(1));
+    EXPECT_EQ(scanner->duplicados()->front().copias.size(), 2U);
+    EXPECT_THAT(*scanner->grandes(), SizeIs(2));
+    EXPECT_THAT(*scanner->capturas(), SizeIs(1));
+    EXPECT_THAT(*scanner->instaladores(), SizeIs(2));
+    EXPECT_THAT(*scanner->descargasViejas(), SizeIs(2));
+    EXPECT_THAT(*scanner->carpetas(), SizeIs(1));
     EXPECT_FALSE(scanner->trabajando());
 }
 
-TEST_F(ScannerTest, DetenerEnLosDuplicadosNoPublicaNada)
+TEST_F(ScannerTest, aStopDuringTheDuplicatesPublishesNothing)
 {
     llenar();
     plataforma.m_accesoArchivos.alAbrir = [this](const std::string &) {
@@ -142,11 +142,11 @@ TEST_F(ScannerTest, DetenerEnLosDuplicadosNoPublicaNada)
             scanner.get(), [this] { scanner->detener(); }, Qt::BlockingQueuedConnection);
     };
     analizar();
-    EXPECT_THAT(scanner->grandes(), IsEmpty());
-    EXPECT_THAT(scanner->duplicados(), IsEmpty());
+    EXPECT_THAT(*scanner->grandes(), IsEmpty());
+    EXPECT_THAT(*scanner->duplicados(), IsEmpty());
 }
 
-TEST_F(ScannerTest, DetenerEnLasDependenciasDejaDuplicadosNuevosJuntoALoDemasViejo)
+TEST_F(ScannerTest, aStopDuringTheDependenciesLeavesNewDuplicatesBesideTheOldRest)
 {
     llenar();
     analizar();
@@ -156,14 +156,14 @@ TEST_F(ScannerTest, DetenerEnLasDependenciasDejaDuplicadosNuevosJuntoALoDemasVie
             scanner.get(), [this] { scanner->detener(); }, Qt::BlockingQueuedConnection);
     };
     analizar();
-    EXPECT_EQ(scanner->duplicados().front().copias.size(), 3U);
-    EXPECT_THAT(scanner->grandes(), SizeIs(3));
-    EXPECT_THAT(scanner->capturas(), SizeIs(1));
-    EXPECT_THAT(scanner->instaladores(), SizeIs(2));
-    EXPECT_THAT(scanner->carpetas(), SizeIs(1));
+    EXPECT_EQ(scanner->duplicados()->front().copias.size(), 3U);
+    EXPECT_THAT(*scanner->grandes(), SizeIs(3));
+    EXPECT_THAT(*scanner->capturas(), SizeIs(1));
+    EXPECT_THAT(*scanner->instaladores(), SizeIs(2));
+    EXPECT_THAT(*scanner->carpetas(), SizeIs(1));
 }
 
-TEST_F(ScannerTest, UnDiscoQueNoContestaNoRetieneElDetener)
+TEST_F(ScannerTest, aDiskThatDoesNotAnswerDoesNotHoldUpAStop)
 {
     std::mutex cerrojo;
     std::condition_variable contesta;
@@ -185,7 +185,7 @@ TEST_F(ScannerTest, UnDiscoQueNoContestaNoRetieneElDetener)
     // A new analysis runs beside the one that hangs, and what that one brings at last is dropped.
     plataforma.m_accesoArchivos.alMirarCarpeta = [] {};
     analizar();
-    EXPECT_THAT(scanner->duplicados(), SizeIs(1));
+    EXPECT_THAT(*scanner->duplicados(), SizeIs(1));
     {
         const std::lock_guard guardia{cerrojo};
         libre = true;
@@ -193,10 +193,10 @@ TEST_F(ScannerTest, UnDiscoQueNoContestaNoRetieneElDetener)
     contesta.notify_all();
     EXPECT_TRUE(esperarSegundoPlano(5000));
     QCoreApplication::processEvents();
-    EXPECT_THAT(scanner->duplicados(), SizeIs(1));
+    EXPECT_THAT(*scanner->duplicados(), SizeIs(1));
 }
 
-TEST_F(ScannerTest, DestruidaDuranteUnAnalisisNoDejaRastro)
+TEST_F(ScannerTest, destroyedDuringAnAnalysisItLeavesNoTrace)
 {
     llenar();
     auto tarea = scanner->analizar();
@@ -205,7 +205,7 @@ TEST_F(ScannerTest, DestruidaDuranteUnAnalisisNoDejaRastro)
     EXPECT_TRUE(esperarSegundoPlano(5000));
 }
 
-TEST_F(ScannerTest, LosAjustesSeGuardanAlMomentoYSobrevivenAlReinicio)
+TEST_F(ScannerTest, theSettingsAreKeptAtOnceAndSurviveARestart)
 {
     scanner->fijarMinimoMB(2.8);
     scanner->fijarDiasDescargas(97);
@@ -216,7 +216,7 @@ TEST_F(ScannerTest, LosAjustesSeGuardanAlMomentoYSobrevivenAlReinicio)
     EXPECT_EQ(plataforma.m_preferencias.entero("diasDescargas"), 97);
 }
 
-TEST_F(ScannerTest, CambiarLosAjustesDuranteUnAnalisisNoLoCambia)
+TEST_F(ScannerTest, changingTheSettingsDuringAnAnalysisDoesNotChangeIt)
 {
     llenar();
     auto tarea = scanner->analizar();
