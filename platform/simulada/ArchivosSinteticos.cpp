@@ -18,12 +18,23 @@ struct CerrarArchivo
 };
 using Archivo = std::unique_ptr<std::FILE, CerrarArchivo>;
 
+Archivo abrir(const std::string &ruta, const char *modo)
+{
+    Archivo archivo(std::fopen(ruta.c_str(), modo));
+    if (!archivo) throw std::system_error(errno, std::generic_category(), ruta);
+    return archivo;
+}
+
 Archivo abrirNuevo(const std::string &ruta)
 {
     std::filesystem::create_directories(std::filesystem::path(ruta).parent_path());
-    Archivo archivo(std::fopen(ruta.c_str(), "wbe"));
-    if (!archivo) throw std::system_error(errno, std::generic_category(), ruta);
-    return archivo;
+    return abrir(ruta, "wbe");
+}
+
+void escribir(std::FILE *archivo, const std::string &ruta, std::string_view texto)
+{
+    const bool escrito = std::fwrite(texto.data(), 1, texto.size(), archivo) == texto.size();
+    if (!escrito || std::fflush(archivo) != 0) throw std::system_error(errno, std::generic_category(), ruta);
 }
 
 } // namespace
@@ -31,9 +42,15 @@ Archivo abrirNuevo(const std::string &ruta)
 void escribirTexto(const std::string &ruta, std::string_view texto)
 {
     const Archivo archivo = abrirNuevo(ruta);
-    const bool escrito = std::fwrite(texto.data(), 1, texto.size(), archivo.get()) == texto.size();
-    if (!escrito || std::fflush(archivo.get()) != 0)
+    escribir(archivo.get(), ruta, texto);
+}
+
+void escribirEn(const std::string &ruta, std::uint64_t posicion, std::string_view texto)
+{
+    const Archivo archivo = abrir(ruta, "r+be");
+    if (::fseeko(archivo.get(), static_cast<off_t>(posicion), SEEK_SET) != 0)
         throw std::system_error(errno, std::generic_category(), ruta);
+    escribir(archivo.get(), ruta, texto);
 }
 
 void reservarArchivo(const std::string &ruta, std::uint64_t bytes)

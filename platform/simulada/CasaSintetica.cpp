@@ -1,6 +1,7 @@
 #include "platform/simulada/CasaSintetica.h"
 
 #include "platform/simulada/CachesSinteticas.h"
+#include "platform/simulada/DescargasSinteticas.h"
 #include "platform/simulada/FotosSinteticas.h"
 #include "platform/simulada/MueblesMac.h"
 
@@ -31,6 +32,7 @@ CasaSintetica::~CasaSintetica()
 void CasaSintetica::amueblar(const std::vector<std::string> &rutasDeReglas, Fecha ahora) const
 {
     ponerMuebles(m_hogar, ahora);
+    ponerDescargas(m_hogar, ahora);
     ponerFotos(m_hogar, ahora);
     llenarCaches(m_hogar, rutasDeReglas, ahora);
 }

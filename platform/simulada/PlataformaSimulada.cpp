@@ -37,7 +37,10 @@ PlataformaSimulada::Opciones PlataformaSimulada::Opciones::delPrograma()
 }
 
 PlataformaSimulada::PlataformaSimulada(const Opciones &opciones)
-    : m_lugares{m_casa.hogar(), {}, opciones.recursos + "/macos/rules.json", opciones.recursos},
+    : m_lugares{.hogar = m_casa.hogar(),
+                .protegidas = {},
+                .catalogo = opciones.recursos + "/macos/rules.json",
+                .recursos = opciones.recursos},
       m_preferencias(m_casa.hogar() + "/Library/Preferences/com.belmora.Ovanta.ini", m_registro),
       m_papelera(m_casa.hogar(), m_reloj, m_registro), m_herramientas(m_registro),
       m_notificaciones(m_registro), m_dialogo(m_registro), m_gestor(m_papelera.carpeta(), m_registro),

@@ -1,10 +1,12 @@
 #include "core/Ejecutar.h"
+#include "core/LeerArchivo.h"
 #include "platform/simulada/ArchivosSinteticos.h"
 #include "platform/simulada/InstantaneaArbol.h"
 #include "platform/simulada/PlataformaSimulada.h"
 
 #include <QImage>
 #include <gmock/gmock.h>
+#include <sys/stat.h>
 
 namespace ovanta {
 namespace {
@@ -120,6 +122,41 @@ TEST_F(SimuladaPlataforma, SusFotosSeAbrenYLasDeUnaSerieSeParecenSinSerIguales)
     ASSERT_FALSE(una.isNull());
     EXPECT_EQ(una.size(), otra.size());
     EXPECT_NE(una, otra);
+}
+
+TEST_F(SimuladaPlataforma, itsDownloadsHoldCopiesLinksAndOnesThatAreOnlyNearlyCopies)
+{
+    const std::string descargas = hogar + "/Downloads/";
+    const auto contenido = [&](const std::string &nombre) {
+        return leerArchivo(descargas + nombre, 10'000'000, EnlaceFinal::rechazar);
+    };
+    EXPECT_EQ(contenido("Viaje a Lisboa/Tranvía 28.mov"), contenido("Tranvía 28 (copia).mov"));
+    EXPECT_EQ(fs::hard_link_count(descargas + "Tranvía 28 (copia).mov"), 2U);
+    EXPECT_EQ(fs::hard_link_count(descargas + "Viaje a Lisboa/Tranvía 28.mov"), 1U);
+    const std::string una = contenido("Informe anual v1.pdf");
+    const std::string otra = contenido("Informe anual v2.pdf");
+    EXPECT_EQ(una.size(), otra.size());
+    EXPECT_EQ(una.substr(0, una.size() - 3), otra.substr(0, otra.size() - 3));
+    EXPECT_NE(una, otra);
+}
+
+TEST_F(SimuladaPlataforma, aFileInTheCloudIsToldApartFromOneThatIsThere)
+{
+    const auto enLaNube = [this](const std::string &nombre) {
+        struct stat atributos = {};
+        EXPECT_EQ(::stat((hogar + "/Downloads/" + nombre).c_str(), &atributos), 0) << nombre;
+        return mac.accesoArchivos().estaEnLaNube(atributos);
+    };
+    EXPECT_TRUE(enLaNube("Película en la nube.mov"));
+    EXPECT_FALSE(enLaNube("Compilador-18.1.dmg"));
+}
+
+TEST_F(SimuladaPlataforma, theSearchForDependenciesRunsForRealOnItsHome)
+{
+    const std::string hallado = mac.herramientas().ejecutar(
+        "/usr/bin/find", {hogar, "-type", "d", "-name", "node_modules", "-prune", "-print"}, 60, true);
+    EXPECT_THAT(hallado, testing::HasSubstr(hogar + "/Downloads/plantilla-web/node_modules\n"));
+    EXPECT_THAT(hallado, testing::HasSubstr(hogar + "/Proyectos/tienda-web/node_modules\n"));
 }
 
 TEST_F(SimuladaPlataforma, LasHerramientasSinGuionFaltan)
