@@ -22,6 +22,7 @@ Rectangle {
         Boton {
             text: raiz.estado.textoDetener
             enabled: raiz.estado.puedeDetener
+            onClicked: raiz.estado.detener()
         }
     }
 }

@@ -5,12 +5,15 @@ import Ovanta
 /// Asks before anything moves. The focus starts on the way out.
 Dialogo {
     id: raiz
+    property string mensaje
+    property string textoMover: "Mover a la Papelera"
+    property int variante: Boton.Primario
     signal confirmada
 
     width: Math.min(440, parent.width - 2 * Tema.margen)
     focoInicial: cancelar
     Texto {
-        text: "Nada se elimina: todo va a la Papelera y puedes recuperarlo desde Finder. El espacio se libera al vaciarla."
+        text: raiz.mensaje
         color: Tema.colores.secundario
         wrapMode: Text.Wrap
         lineHeight: 1.25
@@ -23,9 +26,9 @@ Dialogo {
             onClicked: raiz.close()
         },
         Boton {
-            variante: Boton.Primario
+            variante: raiz.variante
             simbolo: "trash"
-            text: "Mover a la Papelera"
+            text: raiz.textoMover
             onClicked: raiz.confirmada()
         }
     ]

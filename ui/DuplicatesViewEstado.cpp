@@ -6,17 +6,15 @@
 
 #include <QCoroFuture>
 #include <QPointer>
+#include <algorithm>
 
 namespace ovanta {
 
 namespace {
 
-std::vector<std::string> idsDe(const std::vector<GrupoDuplicados> &grupos)
+bool mismosIds(const std::vector<GrupoDuplicados> &unos, const std::vector<GrupoDuplicados> &otros)
 {
-    std::vector<std::string> ids;
-    for (const GrupoDuplicados &grupo : grupos)
-        ids.push_back(grupo.id);
-    return ids;
+    return std::ranges::equal(unos, otros, {}, &GrupoDuplicados::id, &GrupoDuplicados::id);
 }
 
 } // namespace
@@ -31,20 +29,18 @@ DuplicatesViewEstado::DuplicatesViewEstado(QObject *parent) : HallazgosEstado(pa
 
 void DuplicatesViewEstado::publicar()
 {
-    const std::vector<GrupoDuplicados> &grupos = app().scanner().duplicados();
-    m_filas.publicar(&grupos, &m_marcas);
+    const Lista<GrupoDuplicados> &grupos = app().scanner().duplicados();
+    const bool cambian = !mismosIds(m_filas.grupos(), *grupos);
+    m_filas.publicar(grupos);
     Q_EMIT duplicadosChanged();
-    if (std::vector<std::string> ids = idsDe(grupos); ids != m_ids) {
-        m_ids = std::move(ids);
-        desmarcarTodo();
-    }
+    if (cambian) desmarcarTodo();
 }
 
 QString DuplicatesViewEstado::valor() const
 {
     if (vacio()) return {};
     const Formato &formato = Formato::delUsuario();
-    return formato.entero(app().scanner().duplicados().size()) + QStringLiteral(" grupos · ") +
+    return formato.entero(m_filas.grupos().size()) + QStringLiteral(" grupos · ") +
            formato.bytes(app().scanner().desperdicioTotal()) + QStringLiteral(" de tamaño lógico extra");
 }
 
@@ -105,24 +101,40 @@ void DuplicatesViewEstado::desmarcarTodo()
 
 void DuplicatesViewEstado::cambioDeMarcas()
 {
+    ++m_cambios;
     m_filas.marcasCambiadas();
     m_textoReal.clear();
+    revisarConfirmacion();
     Q_EMIT marcasChanged();
     medirEspacioReal();
 }
 
+std::vector<std::string> DuplicatesViewEstado::rutasMarcadas() const
+{
+    std::vector<std::string> rutas(m_marcas.marcadas().begin(), m_marcas.marcadas().end());
+    std::ranges::sort(rutas);
+    return rutas;
+}
+
 QCoro::Task<> DuplicatesViewEstado::medirEspacioReal()
 {
-    const unsigned medicion = ++m_medicion;
-    if (!hayMarcadas()) co_return;
+    // One at a time: whoever marks a row after another should not have each sum measured.
+    if (m_midiendo || !hayMarcadas()) co_return;
     const QPointer vivo{this};
-    std::vector<std::string> rutas(m_marcas.marcadas().begin(), m_marcas.marcadas().end());
-    auto medir = [rutas = std::move(rutas), &acceso = app().plataforma().accesoArchivos()] {
+    const unsigned cambios = m_cambios;
+    m_midiendo = true;
+    auto medir = [rutas = rutasMarcadas(), &acceso = app().plataforma().accesoArchivos()] {
         return espacioReal(rutas, acceso);
     };
     auto futuro = enSegundoPlano(Prioridad::PuedeColgarse, std::move(medir));
     const std::uint64_t bytes = co_await futuro;
-    if (!vivo || medicion != m_medicion || bytes >= m_marcas.bytes()) co_return;
+    if (!vivo) co_return;
+    m_midiendo = false;
+    if (cambios != m_cambios) {
+        medirEspacioReal();
+        co_return;
+    }
+    if (bytes >= m_marcas.bytes()) co_return;
     m_textoReal =
         QStringLiteral("En el disco ocupan %1: se descuentan enlaces, huecos y bloques compartidos.")
             .arg(Formato::delUsuario().bytes(bytes));
@@ -135,39 +147,17 @@ void DuplicatesViewEstado::mostrarEnGestor(int fila)
         app().plataforma().gestorArchivos().mostrar(copia->ruta);
 }
 
-void DuplicatesViewEstado::pedirConfirmacion()
+QString DuplicatesViewEstado::textoMovidos(const QString &cuantos, const QString &bytes) const
 {
-    fijarConfirmando(puedeMover());
-}
-
-void DuplicatesViewEstado::confirmar()
-{
-    if (!confirmando()) return;
-    fijarConfirmando(false);
-    if (puedeMover()) moverMarcadas();
+    return QStringLiteral("Movidas %1 copias · %2").arg(cuantos, bytes);
 }
 
 QCoro::Task<> DuplicatesViewEstado::moverMarcadas()
 {
-    const QPointer vivo{this};
-    OvantaApp &suya = app();
-    std::vector<std::string> rutas(m_marcas.marcadas().begin(), m_marcas.marcadas().end());
-    std::ranges::sort(rutas);
-    const auto lote = std::make_shared<GuardianDeCopias::Lote>(suya.scanner().guardian(),
-                                                               suya.scanner().duplicados(), rutas);
+    const auto lote = std::make_shared<GuardianDeCopias::Lote>(app().scanner().guardian(), m_filas.grupos(),
+                                                               rutasMarcadas());
     auto mirada = [lote](const Papelera::Medida &medida) { return lote->permitir(medida.ruta); };
-    auto limpieza = suya.limpiador().limpiarRutas(std::move(rutas), "duplicados", std::move(mirada));
-    const ResultadoLimpieza resultado = co_await limpieza;
-    suya.disco().medir();
-    if (vivo) {
-        desmarcarTodo();
-        const Formato &formato = Formato::delUsuario();
-        publicarResultado(QStringLiteral("Movidas %1 copias · %2")
-                              .arg(formato.entero(static_cast<std::uint64_t>(resultado.movidos)),
-                                   formato.bytes(resultado.bytes)),
-                          resultado);
-    }
-    suya.scanner().analizar();
+    return mover(rutasMarcadas(), "duplicados", std::move(mirada));
 }
 
 } // namespace ovanta

@@ -4,13 +4,11 @@
 #include "ui/MarcasDeCopias.h"
 #include "ui/ModeloCopias.h"
 
-#include <QCoroTask>
-
 namespace ovanta {
 
 /// The rules of the duplicates screen: what is listed, what may be marked, and the move. The marks live
-/// as long as the screen; a move that it started goes on without it.
-class DuplicatesViewEstado : public HallazgosEstado
+/// as long as the screen.
+class DuplicatesViewEstado : public ovanta::HallazgosEstado
 {
     Q_OBJECT
     QML_ELEMENT
@@ -33,7 +31,7 @@ public:
     explicit DuplicatesViewEstado(QObject *parent = nullptr);
 
     ModeloCopias *filas() { return &m_filas; }
-    bool vacio() const { return app().scanner().duplicados().empty(); }
+    bool vacio() const { return m_filas.grupos().empty(); }
     QString valor() const;
     QString tituloVacio() const;
     QString mensajeVacio() const;
@@ -46,28 +44,32 @@ public:
     const MarcasDeCopias &marcas() const { return m_marcas; }
 
     Q_INVOKABLE void marcar(int fila, bool marcada);
+    /// Of the group that a row belongs to.
     Q_INVOKABLE void marcarTodasMenosLaOriginal(int fila);
     Q_INVOKABLE void desmarcarTodo();
     Q_INVOKABLE void mostrarEnGestor(int fila);
-    /// "Mover a la Papelera" asks first; `confirmar` moves what is marked then.
-    Q_INVOKABLE void pedirConfirmacion();
-    Q_INVOKABLE void confirmar();
 
 Q_SIGNALS:
     void duplicadosChanged();
     void marcasChanged();
 
+protected:
+    bool hayQueMover() const override { return puedeMover(); }
+    QCoro::Task<> moverMarcadas() override;
+    void olvidarMarcas() override { desmarcarTodo(); }
+    QString textoMovidos(const QString &cuantos, const QString &bytes) const override;
+
 private:
     void publicar();
     void cambioDeMarcas();
+    std::vector<std::string> rutasMarcadas() const;
     QCoro::Task<> medirEspacioReal();
-    QCoro::Task<> moverMarcadas();
 
-    ModeloCopias m_filas;
     MarcasDeCopias m_marcas;
-    std::vector<std::string> m_ids; ///< of the groups that the marks are for
+    ModeloCopias m_filas{m_marcas};
     QString m_textoReal;
-    unsigned m_medicion = 0; ///< tells the last measurement of the marks from earlier ones
+    unsigned m_cambios = 0; ///< of the marks
+    bool m_midiendo = false;
 };
 
 } // namespace ovanta

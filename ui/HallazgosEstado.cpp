@@ -4,7 +4,7 @@
 #include "core/qt/Texto.h"
 #include "ui/Ovanta.h"
 
-#include <algorithm>
+#include <QPointer>
 
 namespace ovanta {
 
@@ -31,9 +31,21 @@ void HallazgosEstado::detener()
     m_app.scanner().detener();
 }
 
-void HallazgosEstado::verPapelera()
+void HallazgosEstado::pedirConfirmacion()
 {
-    m_app.plataforma().gestorArchivos().abrirPapelera();
+    fijarConfirmando(hayQueMover());
+}
+
+void HallazgosEstado::confirmar()
+{
+    if (!m_confirmando) return;
+    fijarConfirmando(false);
+    if (hayQueMover()) moverMarcadas();
+}
+
+void HallazgosEstado::revisarConfirmacion()
+{
+    if (!hayQueMover()) fijarConfirmando(false);
 }
 
 void HallazgosEstado::fijarConfirmando(bool confirmando)
@@ -43,17 +55,30 @@ void HallazgosEstado::fijarConfirmando(bool confirmando)
     Q_EMIT confirmandoChanged();
 }
 
-void HallazgosEstado::publicarResultado(const QString &movidos, const ResultadoLimpieza &resultado)
+QCoro::Task<> HallazgosEstado::mover(std::vector<std::string> rutas, std::string etiqueta,
+                                     UltimaMirada mirada)
 {
-    constexpr std::size_t primeros = 3;
-    QStringList lineas;
-    for (std::size_t i = 0; i < std::min(primeros, resultado.errores.size()); ++i)
-        lineas << mostrar(resultado.errores[i]);
-    if (resultado.errores.size() > primeros)
-        lineas << QStringLiteral("y %1 más")
-                      .arg(Formato::delUsuario().entero(resultado.errores.size() - primeros));
-    m_resumen = movidos;
-    m_fallos = lineas.join(QLatin1Char('\n'));
+    const QPointer vivo{this};
+    const QPointer disco{&m_app.disco()};
+    const QPointer scanner{&m_app.scanner()};
+    auto limpieza = m_app.limpiador().limpiarRutas(std::move(rutas), std::move(etiqueta), std::move(mirada));
+    const ResultadoLimpieza resultado = co_await limpieza;
+    if (disco) disco->medir();
+    if (vivo) {
+        olvidarMarcas();
+        publicarResultado(resultado);
+    }
+    if (scanner) scanner->analizar();
+}
+
+void HallazgosEstado::publicarResultado(const ResultadoLimpieza &resultado)
+{
+    const Formato &formato = Formato::delUsuario();
+    m_resumen = textoMovidos(formato.entero(static_cast<std::uint64_t>(resultado.movidos)),
+                             formato.bytes(resultado.bytes));
+    m_fallos.clear();
+    for (const std::string &error : resultado.errores)
+        m_fallos << mostrar(error);
     Q_EMIT resultadoChanged();
 }
 

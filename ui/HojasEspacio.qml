@@ -20,6 +20,7 @@ Item {
     ConfirmacionMover {
         visible: raiz.estado.confirmando
         titulo: raiz.estado.tituloConfirmacion
+        mensaje: "Nada se elimina: todo va a la Papelera y puedes recuperarlo desde Finder. El espacio se libera al vaciarla."
         onConfirmada: raiz.estado.confirmar()
         onClosed: raiz.estado.cancelar()
     }

@@ -28,6 +28,10 @@ QString vistaDe(Seccion seccion)
         return QStringLiteral("ResumenView");
     case Seccion::espacio:
         return QStringLiteral("SpaceView");
+    case Seccion::duplicados:
+        return QStringLiteral("DuplicatesView");
+    case Seccion::pesados:
+        return QStringLiteral("BigFilesView");
     case Seccion::historial:
         return QStringLiteral("HistorialView");
     case Seccion::ajustes:
@@ -103,6 +107,7 @@ void MainViewEstado::analizarDeNuevo()
 {
     m_app.disco().medir();
     m_app.reglas().medir();
+    m_app.scanner().analizar();
 }
 
 } // namespace ovanta

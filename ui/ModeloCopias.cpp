@@ -13,6 +13,11 @@ namespace {
 /// Parts a row's key; no group id and no path holds a NUL.
 constexpr char separador = '\0';
 
+QString nombreDe(const ArchivoHallado &copia)
+{
+    return mostrar(ultimoComponente(copia.ruta));
+}
+
 QString cabezaDe(const GrupoDuplicados &grupo)
 {
     const Formato &formato = Formato::delUsuario();
@@ -24,22 +29,23 @@ QString extraDe(const GrupoDuplicados &grupo)
     return QStringLiteral("tamaño lógico extra: ") + Formato::delUsuario().bytes(grupo.desperdiciado());
 }
 
-bool esUnaDeVarias(const GrupoDuplicados &grupo, const ArchivoHallado &copia)
-{
-    return std::ranges::count(grupo.copias, identidadDeCopia(copia), identidadDeCopia) > 1;
-}
-
 } // namespace
 
-void ModeloCopias::publicar(const std::vector<GrupoDuplicados> *grupos, const MarcasDeCopias *marcas)
+ModeloCopias::ModeloCopias(const MarcasDeCopias &marcas, QObject *parent)
+    : ModeloConClaves(parent), m_marcas(marcas), m_grupos(listaDe<GrupoDuplicados>({})), m_comienzos{0}
 {
-    beginResetModel();
-    m_grupos = grupos;
-    m_marcas = marcas;
-    m_comienzos = {0};
-    for (const GrupoDuplicados &grupo : *grupos)
-        m_comienzos.push_back(m_comienzos.back() + static_cast<int>(grupo.copias.size()));
-    endResetModel();
+}
+
+void ModeloCopias::publicar(Lista<GrupoDuplicados> grupos)
+{
+    reponer([&] {
+        m_variosNombres.clear();
+        m_grupoMirado.reset();
+        m_grupos = std::move(grupos);
+        m_comienzos = {0};
+        for (const GrupoDuplicados &grupo : *m_grupos)
+            m_comienzos.push_back(m_comienzos.back() + static_cast<int>(grupo.copias.size()));
+    });
 }
 
 void ModeloCopias::marcasCambiadas()
@@ -68,15 +74,14 @@ const ArchivoHallado *ModeloCopias::copiaDe(int fila) const
 QString ModeloCopias::claveDe(int fila) const
 {
     const GrupoDuplicados *grupo = grupoDe(fila);
-    return grupo ? QString::fromLatin1(QByteArray::fromStdString(grupo->id + separador + copiaDe(fila)->ruta))
-                 : QString();
+    return grupo ? comoClave(grupo->id + separador + copiaDe(fila)->ruta) : QString();
 }
 
 int ModeloCopias::filaDe(const QString &clave) const
 {
-    const std::string bytes = clave.toLatin1().toStdString();
+    const std::string bytes = deClave(clave);
     const auto corte = bytes.find(separador);
-    if (corte == std::string::npos || !m_grupos) return -1;
+    if (corte == std::string::npos) return -1;
     const auto grupo = std::ranges::find(*m_grupos, bytes.substr(0, corte), &GrupoDuplicados::id);
     if (grupo == m_grupos->end()) return -1;
     const auto copia = std::ranges::find(grupo->copias, bytes.substr(corte + 1), &ArchivoHallado::ruta);
@@ -86,7 +91,35 @@ int ModeloCopias::filaDe(const QString &clave) const
 
 int ModeloCopias::rowCount(const QModelIndex &padre) const
 {
-    return padre.isValid() || m_comienzos.empty() ? 0 : m_comienzos.back();
+    return padre.isValid() ? 0 : m_comienzos.back();
+}
+
+bool ModeloCopias::esUnaDeVarias(Lugar lugar) const
+{
+    const GrupoDuplicados &grupo = (*m_grupos)[lugar.grupo];
+    if (m_grupoMirado != lugar.grupo) {
+        std::unordered_set<std::string_view> vistas;
+        m_variosNombres.clear();
+        for (const ArchivoHallado &copia : grupo.copias)
+            if (!vistas.insert(identidadDeCopia(copia)).second)
+                m_variosNombres.insert(identidadDeCopia(copia));
+        m_grupoMirado = lugar.grupo;
+    }
+    return m_variosNombres.contains(identidadDeCopia(grupo.copias[lugar.copia]));
+}
+
+QVariant ModeloCopias::deGrupo(const GrupoDuplicados &grupo, int rol) const
+{
+    switch (rol) {
+    case Cabeza:
+        return cabezaDe(grupo);
+    case Extra:
+        return extraDe(grupo);
+    case Titulo:
+        return nombreDe(grupo.copias.front());
+    default:
+        return {};
+    }
 }
 
 QVariant ModeloCopias::data(const QModelIndex &indice, int rol) const
@@ -97,29 +130,22 @@ QVariant ModeloCopias::data(const QModelIndex &indice, int rol) const
     const ArchivoHallado &copia = grupo->copias[lugar.copia];
     switch (rol) {
     case Nombre:
-        return mostrar(std::string(ultimoComponente(copia.ruta)));
+        return nombreDe(copia);
     case Carpeta:
-        return mostrar(std::string(carpetaContenedora(copia.ruta)));
+        return mostrar(carpetaContenedora(copia.ruta));
     case Marcable:
         return MarcasDeCopias::marcable(*grupo, copia);
     case Marcada:
-        return m_marcas->marcada(copia);
-    case MasAntigua:
-        return lugar.copia == 0;
+        return m_marcas.marcada(copia);
     case MismoArchivo:
-        return esUnaDeVarias(*grupo, copia);
+        return esUnaDeVarias(lugar);
+    case MasAntigua:
     case AbreGrupo:
         return lugar.copia == 0;
     case CierraGrupo:
         return lugar.copia + 1 == grupo->copias.size();
-    case Cabeza:
-        return cabezaDe(*grupo);
-    case Extra:
-        return extraDe(*grupo);
-    case Titulo:
-        return mostrar(std::string(ultimoComponente(grupo->copias.front().ruta)));
     default:
-        return {};
+        return lugar.copia == 0 ? deGrupo(*grupo, rol) : QVariant(QString());
     }
 }
 

@@ -17,6 +17,10 @@ ResumenViewEstado::ResumenViewEstado(QObject *parent) : QObject(parent), m_app(O
     connect(&m_app.disco(), &DiskMonitor::ajustesChanged, this, &ResumenViewEstado::actualizar);
     connect(&m_app.reglas(), &RuleStore::reglasChanged, this, &ResumenViewEstado::actualizar);
     connect(&m_app.reglas(), &RuleStore::midiendoChanged, this, &ResumenViewEstado::actualizar);
+    connect(&m_app.scanner(), &Scanner::trabajandoChanged, this, &ResumenViewEstado::actualizar);
+    connect(&m_app.scanner(), &Scanner::duplicadosChanged, this, &ResumenViewEstado::actualizar);
+    connect(&m_app.scanner(), &Scanner::hallazgosChanged, this, &ResumenViewEstado::actualizar);
+    connect(&m_app.scanner(), &Scanner::ajustesChanged, this, &ResumenViewEstado::actualizar);
     actualizar();
 }
 
@@ -98,6 +102,13 @@ void ResumenViewEstado::analizarTodo()
 {
     m_app.disco().medir();
     m_app.reglas().medir();
+    m_app.scanner().analizar();
+}
+
+void ResumenViewEstado::detener()
+{
+    m_app.scanner().detener();
+    actualizar();
 }
 
 void ResumenViewEstado::verPapelera()

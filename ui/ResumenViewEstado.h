@@ -54,6 +54,7 @@ public:
     /// To be called when the screen is first shown: makes sure that the data is there.
     Q_INVOKABLE void alMostrar();
     Q_INVOKABLE void analizarTodo();
+    Q_INVOKABLE void detener();
     Q_INVOKABLE void verPapelera();
     /// Leads to a section by its key.
     Q_INVOKABLE void ir(const QString &seccion);

@@ -115,6 +115,17 @@ EntradasResumen leerEntradas(OvantaApp &app)
     EntradasResumen entradas;
     entradas.bytesReglas = app.reglas().bytesRecuperables();
     entradas.midiendoReglas = app.reglas().midiendo();
+    const Scanner &scanner = app.scanner();
+    entradas.escaneando = scanner.trabajando();
+    entradas.deteniendo = scanner.deteniendo();
+    entradas.gruposDuplicados = scanner.duplicados()->size();
+    entradas.bytesDuplicados = scanner.desperdicioTotal();
+    entradas.carpetas = scanner.carpetas()->size();
+    entradas.bytesCarpetas = scanner.bytesCarpetas();
+    entradas.descargas = scanner.descargasViejas()->size();
+    for (const ArchivoHallado &descarga : *scanner.descargasViejas())
+        entradas.bytesDescargas = sumar(entradas.bytesDescargas, descarga.bytes);
+    entradas.diasDescargas = scanner.diasDescargas();
     return entradas;
 }
 

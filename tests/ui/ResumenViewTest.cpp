@@ -1,6 +1,7 @@
 #include "tests/ui/BancoInterfaz.h"
 #include "ui/ResumenViewEstado.h"
 
+#include <QCoroTask>
 #include <QSignalSpy>
 
 using namespace ovanta;
@@ -89,6 +90,50 @@ TEST_F(ResumenView, analysingEverythingReadsTheDiskAndMeasures)
     EXPECT_TRUE(app().reglas().midiendo());
     soltar();
     esperar([&] { return !app().reglas().midiendo(); });
+}
+
+TEST_F(ResumenView, analysingEverythingAlsoLooksThroughTheFilesAndStopEndsThat)
+{
+    abrir();
+    esperar([&] { return !app().reglas().midiendo(); });
+    std::promise<void> freno;
+    auto fin = freno.get_future().share();
+    plataforma.m_accesoArchivos.alMirarCarpeta = [fin] { fin.wait(); };
+    casa.carpeta(casa.en("Downloads"));
+    pulsarBoton(QStringLiteral("Analizar todo"));
+    EXPECT_TRUE(app().scanner().trabajando());
+    EXPECT_TRUE(seVe(QStringLiteral("Analizando")));
+    EXPECT_TRUE(disponible(QAccessible::Button, QStringLiteral("Detener")));
+    pulsarBoton(QStringLiteral("Detener"));
+    EXPECT_EQ(app().scanner().progreso(), QStringLiteral("Deteniendo…"));
+    EXPECT_FALSE(disponible(QAccessible::Button, QStringLiteral("Deteniendo")));
+    freno.set_value();
+    esperar([&] { return seVe(QStringLiteral("Analizar todo")); });
+    EXPECT_FALSE(seVe(QStringLiteral("Deteniendo")));
+}
+
+TEST_F(ResumenView, theCardsTellWhatAnAnalysisFound)
+{
+    abrir();
+    esperar([&] { return !app().reglas().midiendo(); });
+    for (const char *nombre : {"uno.bin", "dos.bin"}) {
+        casa.archivo(casa.en("Downloads/") + nombre);
+        std::filesystem::resize_file(casa.en("Downloads/") + nombre, 2'000'000);
+    }
+    const auto guion = plataforma.m_herramientas.alEjecutar;
+    plataforma.m_herramientas.alEjecutar = [&, guion](const auto &binario, const auto &args) {
+        const std::string carpeta = casa.en("p/target");
+        if (binario == "/usr/bin/find") return carpeta + "\n";
+        return args.back() == carpeta ? "1000\t" + carpeta + "\n" : guion(binario, args);
+    };
+    plataforma.m_reloj.fijar(std::chrono::floor<Fecha::duration>(Fecha::clock::now()) +
+                             std::chrono::days(91));
+    QCoro::waitFor(app().scanner().analizar());
+    reposar();
+    for (const char *texto : {"1 grupos · clones APFS pueden compartir bloques", "2 MB",
+                              "1 carpetas reinstalables", "1 MB", "2 sin tocar en 90 días", "4 MB"})
+        EXPECT_TRUE(seVe(QString::fromUtf8(texto))) << texto;
+    EXPECT_TRUE(seVe(QStringLiteral("1,03 GB"))) << "the estimate";
 }
 
 TEST_F(ResumenView, theTrashOpensAndACardLeadsToItsSection)
