@@ -41,6 +41,9 @@ Rectangle {
                 simbolo: "checkmark.shield"
                 texto: "Todo va a la Papelera y puede recuperarse."
                 color: Tema.colores.verde
+            }
+            Item {
+                visible: !raiz.estado.moviendo
                 Layout.fillWidth: true
             }
             Texto {

@@ -42,6 +42,7 @@ protected:
     }
     void enlaceFisico(const std::string &nombre, const std::string &otro) const
     {
+        std::filesystem::create_directories(std::filesystem::path(en(otro)).parent_path());
         std::filesystem::create_hard_link(en(nombre), en(otro));
     }
     /// A group of so many copies of `bytes` bytes, the first the oldest.

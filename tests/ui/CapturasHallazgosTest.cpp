@@ -126,7 +126,7 @@ TEST_F(CapturasHallazgos, whatWeighsMostStandsInEveryState)
     retratar(QStringLiteral("pesados-lleno"));
     for (const char *nombre : {"debian-12.8.0-amd64-netinst.iso", "EditorDeMapas-4.2.dmg"})
         pulsar(QAccessible::CheckBox, QString::fromUtf8(nombre));
-    auto *pestana = pieza(QAccessible::PageTab, QStringLiteral("Archivos grandes (32)"));
+    auto *pestana = pieza(QAccessible::PageTab, QStringLiteral("Archivos grandes (33)"));
     ASSERT_NE(pestana, nullptr);
     pestana->forceActiveFocus(Qt::TabFocusReason);
     retratar(QStringLiteral("pesados-marcado"));

@@ -10,8 +10,8 @@ T.TabButton {
     signal movido(int pasos)
 
     implicitWidth: Math.ceil(implicitContentWidth) + leftPadding + rightPadding
-    leftPadding: 10
-    rightPadding: 10
+    leftPadding: 4
+    rightPadding: 4
     checkable: false
     focusPolicy: elegido ? Qt.StrongFocus : Qt.ClickFocus
     hoverEnabled: true
