@@ -5,6 +5,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <thread>
 
 namespace ovanta {
 
@@ -19,16 +20,19 @@ double procesadorUs()
 
 } // namespace
 
-/// `proc [rounds]`: one sweep over the processes of this machine, the median of the rounds after one that
-/// warms up, by the clock and by the processor time it took (what others run at that time does not count
-/// there). Per process that takes memory; threads of the kernel cost, but don't count.
+/// `proc [rounds [pause]]`: one sweep over the processes of this machine, the median of the rounds after one
+/// that warms up, each after a pause of so many milliseconds; by the clock and by the processor time it took
+/// (what others run at that time does not count there). Per process that takes memory; threads of the kernel
+/// cost, but don't count.
 int bancoProc(int argc, char **argv)
 {
     const int tandas = std::max(1, argc > 1 ? std::atoi(argv[1]) : 99);
+    const std::chrono::milliseconds pausa(argc > 2 ? std::atoi(argv[2]) : 0);
     BarridoProc barrido;
     std::size_t vistos = barrido.barrer().size();
     std::vector<double> tiempos, procesador;
     for (int i = 0; i < tandas; ++i) {
+        std::this_thread::sleep_for(pausa);
         const double antes = procesadorUs();
         tiempos.push_back(microsegundosPorVez(1, [&] { vistos = barrido.barrer().size(); }));
         procesador.push_back(procesadorUs() - antes);
