@@ -12,8 +12,8 @@
 namespace ovanta {
 
 /// Sweeps over the running processes. What seldom changes while a process runs is remembered from one
-/// sweep to the next and read anew in its second one, when its program, its parent or its folder
-/// changes, and else once in a few minutes of sweeps. No file of a process stays open.
+/// sweep to the next and read anew in its second one, when the size of its code, its parent or its
+/// folder changes, and else once in a few minutes of sweeps. No file of a process stays open.
 class BarridoProc
 {
 public:

@@ -28,7 +28,7 @@ std::optional<LineaStat> interpretarLineaStat(std::string_view texto);
 struct LineaStatm
 {
     std::uint64_t propias = 0; ///< resident, and neither of a file nor shared: RssAnon
-    std::uint64_t codigo = 0;  ///< of the program's text: changes when it runs another program
+    std::uint64_t codigo = 0;  ///< of the program's text: seldom the same in two programs
 
     bool operator==(const LineaStatm &) const = default;
 };
