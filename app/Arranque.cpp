@@ -1,5 +1,6 @@
 #include "app/Arranque.h"
 
+#include "app/MostrarEnDock.h"
 #include "app/OvantaApp.h"
 #include "app/Residente.h"
 #include "app/SenalesDeFin.h"
@@ -18,6 +19,7 @@ constexpr int esperaFinalMs = 500;
 
 int vivir(Plataforma &plataforma)
 {
+    aplicarMostrarEnDock(plataforma);
     OvantaApp app(plataforma);
     Residente residente(app);
     SenalesDeFin senales;

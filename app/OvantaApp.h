@@ -1,5 +1,6 @@
 #pragma once
 
+#include "analysis/Scanner.h"
 #include "app/NavegacionAplicacion.h"
 #include "core/Cleaner.h"
 #include "core/RuleStore.h"
@@ -28,6 +29,7 @@ public:
     DiskMonitor &disco() { return m_disco; }
     RuleStore &reglas() { return m_reglas; }
     Cleaner &limpiador() { return m_limpiador; }
+    Scanner &scanner() { return m_scanner; }
     NavegacionAplicacion &navegacion() { return m_navegacion; }
     SystemStatsMonitor &stats() { return m_stats; }
 
@@ -36,6 +38,7 @@ private:
     DiskMonitor m_disco;
     RuleStore m_reglas;
     Cleaner m_limpiador;
+    Scanner m_scanner;
     NavegacionAplicacion m_navegacion;
     SystemStatsMonitor m_stats;
 };

@@ -9,10 +9,12 @@
 #include "platform/DialogoCritico.h"
 #include "platform/GestorArchivos.h"
 #include "platform/Herramientas.h"
+#include "platform/InicioAutomatico.h"
 #include "platform/InstanciaUnica.h"
 #include "platform/Lugares.h"
 #include "platform/Notificaciones.h"
 #include "platform/Papelera.h"
+#include "platform/PoliticaActivacion.h"
 #include "platform/Reloj.h"
 #include "platform/Suspension.h"
 #include "platform/Termico.h"
@@ -41,6 +43,8 @@ public:
     virtual Apariencia &apariencia() = 0;
     virtual AnfitrionBandeja &anfitrionBandeja() = 0;
     virtual InstanciaUnica &instanciaUnica() = 0;
+    virtual InicioAutomatico &inicioAutomatico() = 0;
+    virtual PoliticaActivacion &politicaActivacion() = 0;
     virtual Contadores &contadores() = 0;
     virtual Termico &termico() = 0;
     virtual Bateria &bateria() = 0;

@@ -198,6 +198,36 @@ struct InstanciaDePrueba final : InstanciaUnica
     bool iniciadaPorLaSesion() const override { return silenciosa; }
 };
 
+/// Can be told to refuse; background threads ask it.
+struct InicioDePrueba final : InicioAutomatico
+{
+    std::mutex cerrojo;
+    bool puesto = false;
+    std::string fallo; ///< where set, every change is refused with it
+    int cambios = 0;
+
+    bool activado() override
+    {
+        const std::lock_guard guardia{cerrojo};
+        return puesto;
+    }
+    std::expected<void, std::string> fijar(bool activado) override
+    {
+        const std::lock_guard guardia{cerrojo};
+        if (!fallo.empty()) return std::unexpected(fallo);
+        ++cambios;
+        puesto = activado;
+        return {};
+    }
+};
+
+struct PoliticaDePrueba final : PoliticaActivacion
+{
+    std::vector<Politica> fijadas;
+
+    void fijar(Politica politica) override { fijadas.push_back(politica); }
+};
+
 struct ContadoresDePrueba final : Contadores
 {
     std::optional<Ticks> ticks = Ticks{};
@@ -257,6 +287,8 @@ struct PlataformaDePrueba : Plataforma
     AparienciaDePrueba m_apariencia;
     AnfitrionDePrueba m_anfitrion;
     InstanciaDePrueba m_instancia;
+    InicioDePrueba m_inicio;
+    PoliticaDePrueba m_politica;
     ContadoresDePrueba m_contadores;
     TermicoDePrueba m_termico;
     BateriaDePrueba m_bateria;
@@ -275,6 +307,8 @@ struct PlataformaDePrueba : Plataforma
     Apariencia &apariencia() override { return m_apariencia; }
     AnfitrionBandeja &anfitrionBandeja() override { return m_anfitrion; }
     InstanciaUnica &instanciaUnica() override { return m_instancia; }
+    InicioAutomatico &inicioAutomatico() override { return m_inicio; }
+    PoliticaActivacion &politicaActivacion() override { return m_politica; }
     Contadores &contadores() override { return m_contadores; }
     Termico &termico() override { return m_termico; }
     Bateria &bateria() override { return m_bateria; }

@@ -30,6 +30,8 @@ QString vistaDe(Seccion seccion)
         return QStringLiteral("SpaceView");
     case Seccion::historial:
         return QStringLiteral("HistorialView");
+    case Seccion::ajustes:
+        return QStringLiteral("PrefsView");
     default:
         return QStringLiteral("SeccionEnConstruccion");
     }

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QDateTime>
 #include <QFile>
+#include <cmath>
 
 namespace ovanta {
 
@@ -49,7 +50,7 @@ std::optional<Preferencias::Valor> deTexto(const QString &texto)
     bool bien = false;
     if (texto.startsWith(QLatin1Char('r'))) {
         const double real = texto.mid(1).toDouble(&bien);
-        if (bien) return Preferencias::Valor{real};
+        if (bien && std::isfinite(real)) return Preferencias::Valor{real};
     } else if (texto.startsWith(QLatin1Char('f'))) {
         const qlonglong micros = texto.mid(1).toLongLong(&bien);
         if (bien) return Preferencias::Valor{Fecha{std::chrono::microseconds{micros}}};

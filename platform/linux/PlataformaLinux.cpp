@@ -1,5 +1,6 @@
 #include "platform/linux/PlataformaLinux.h"
 
+#include "core/Enlaces.h"
 #include "core/LeerArchivo.h"
 #include "platform/linux/InicioDeSesion.h"
 
@@ -27,6 +28,13 @@ LugarPapelera lugarDeLaPapelera(const std::string &hogar)
     return {hogar, datos ? datos : ""};
 }
 
+InicioAutomaticoLinux::Lugares lugaresDeInicio(const EntornoLugares &entorno, const std::string &hogar)
+{
+    const char *dirs = std::getenv("XDG_CONFIG_DIRS");
+    return InicioAutomaticoLinux::Lugares::de(carpetaDeConfiguracion(entorno, hogar), dirs ? dirs : "",
+                                              resolverEnlaces("/proc/self/exe").value_or(""));
+}
+
 bool iniciadoPorLaSesion()
 {
     return laSesionInicio(leerProc("self/cgroup"), leerProc(std::to_string(::getppid()) + "/comm"));
@@ -42,7 +50,8 @@ PlataformaLinux::PlataformaLinux()
       m_papelera({lugarDeLaPapelera(m_lugares.hogar), [this] { return m_reloj.ahora(); }}),
       m_herramientas(m_lugares.hogar), m_notificaciones(m_sesion), m_suspension(QDBusConnection::systemBus()),
       m_gestorArchivos(m_sesion), m_apariencia(m_sesion), m_anfitrionBandeja(m_sesion),
-      m_instanciaUnica({m_sesion, carpetaDeSesion(m_entorno, m_lugares.hogar), iniciadoPorLaSesion()})
+      m_instanciaUnica({m_sesion, carpetaDeSesion(m_entorno, m_lugares.hogar), iniciadoPorLaSesion()}),
+      m_inicioAutomatico(lugaresDeInicio(m_entorno, m_lugares.hogar))
 {
 }
 

@@ -10,10 +10,12 @@
 #include "platform/linux/DialogoCriticoLinux.h"
 #include "platform/linux/GestorArchivosLinux.h"
 #include "platform/linux/HerramientasLinux.h"
+#include "platform/linux/InicioAutomaticoLinux.h"
 #include "platform/linux/InstanciaUnicaLinux.h"
 #include "platform/linux/LugaresLinux.h"
 #include "platform/linux/NotificacionesLinux.h"
 #include "platform/linux/PapeleraLinux.h"
+#include "platform/linux/PoliticaActivacionLinux.h"
 #include "platform/linux/RelojLinux.h"
 #include "platform/linux/SuspensionLinux.h"
 #include "platform/linux/TermicoLinux.h"
@@ -42,6 +44,8 @@ public:
     Apariencia &apariencia() override { return m_apariencia; }
     AnfitrionBandeja &anfitrionBandeja() override { return m_anfitrionBandeja; }
     InstanciaUnica &instanciaUnica() override { return m_instanciaUnica; }
+    InicioAutomatico &inicioAutomatico() override { return m_inicioAutomatico; }
+    PoliticaActivacion &politicaActivacion() override { return m_politicaActivacion; }
     Contadores &contadores() override { return m_contadores; }
     Termico &termico() override { return m_termico; }
     Bateria &bateria() override { return m_bateria; }
@@ -63,6 +67,8 @@ private:
     AparienciaLinux m_apariencia;
     AnfitrionBandejaLinux m_anfitrionBandeja;
     InstanciaUnicaLinux m_instanciaUnica;
+    InicioAutomaticoLinux m_inicioAutomatico;
+    PoliticaActivacionLinux m_politicaActivacion;
     ContadoresLinux m_contadores;
     TermicoLinux m_termico;
     BateriaLinux m_bateria{QDBusConnection::systemBus()};

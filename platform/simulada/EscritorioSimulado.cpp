@@ -65,4 +65,11 @@ bool InstanciaUnicaSimulada::adquirir(std::function<void()> alActivar)
     return true;
 }
 
+void PoliticaSimulada::fijar(Politica politica)
+{
+    m_registro.anotar(
+        {Mutacion::Clase::politica, politica == Politica::regular ? "regular" : "accesoria", {}});
+    m_politica = politica;
+}
+
 } // namespace ovanta

@@ -7,6 +7,7 @@
 #include "platform/InstanciaUnica.h"
 #include "platform/Notificaciones.h"
 #include "platform/Oyentes.h"
+#include "platform/PoliticaActivacion.h"
 #include "platform/Suspension.h"
 #include "platform/simulada/RegistroMutaciones.h"
 
@@ -124,6 +125,19 @@ public:
 
 private:
     Oyentes m_activaciones;
+};
+
+class PoliticaSimulada final : public PoliticaActivacion
+{
+public:
+    explicit PoliticaSimulada(RegistroMutaciones &registro) : m_registro(registro) {}
+
+    Politica actual() const { return m_politica; }
+    void fijar(Politica politica) override;
+
+private:
+    RegistroMutaciones &m_registro;
+    Politica m_politica = Politica::regular;
 };
 
 } // namespace ovanta

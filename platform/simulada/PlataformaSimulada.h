@@ -5,6 +5,7 @@
 #include "platform/simulada/CasaSintetica.h"
 #include "platform/simulada/EscritorioSimulado.h"
 #include "platform/simulada/HerramientasSimuladas.h"
+#include "platform/simulada/InicioSimulado.h"
 #include "platform/simulada/PapeleraSimulada.h"
 #include "platform/simulada/PreferenciasRegistradas.h"
 #include "platform/simulada/RegistroMutaciones.h"
@@ -55,6 +56,8 @@ public:
     AparienciaSimulada &apariencia() override { return m_apariencia; }
     AnfitrionBandejaSimulado &anfitrionBandeja() override { return m_anfitrion; }
     InstanciaUnicaSimulada &instanciaUnica() override { return m_instancia; }
+    InicioSimulado &inicioAutomatico() override { return m_inicio; }
+    PoliticaSimulada &politicaActivacion() override { return m_politica; }
     ContadoresSimulados &contadores() override { return m_contadores; }
     TermicoSimulado &termico() override { return m_termico; }
     BateriaSimulada &bateria() override { return m_bateria; }
@@ -76,6 +79,8 @@ private:
     AparienciaSimulada m_apariencia;
     AnfitrionBandejaSimulado m_anfitrion;
     InstanciaUnicaSimulada m_instancia;
+    InicioSimulado m_inicio;
+    PoliticaSimulada m_politica;
     ContadoresSimulados m_contadores{m_reloj};
     TermicoSimulado m_termico;
     BateriaSimulada m_bateria{m_reloj};

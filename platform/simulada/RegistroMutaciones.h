@@ -9,7 +9,16 @@ namespace ovanta {
 /// Something that the program did to the simulated machine.
 struct Mutacion
 {
-    enum class Clase { movimiento, herramienta, ajuste, notificacion, dialogo, archivoMostrado };
+    enum class Clase {
+        movimiento,
+        herramienta,
+        ajuste,
+        notificacion,
+        dialogo,
+        archivoMostrado,
+        inicio,
+        politica
+    };
 
     Clase clase;
     std::string objeto;  ///< path, tool, key or notice that it was about

@@ -43,6 +43,9 @@ class Elemento:
         """The number that a bar, slider or field shows."""
         return self._leer(self._atspi.get_current_value, None)
 
+    def fijar_valor(self, valor):
+        self._atspi.set_current_value(valor)
+
     def _estado(self, estado):
         return self._leer(lambda: self._atspi.get_state_set().contains(estado), False)
 

@@ -52,3 +52,31 @@ TEST_F(CapturasHojas, theScreensStandEmptyToo)
     capturar(QStringLiteral("historial-vacio"));
     EXPECT_TRUE(seVe(QStringLiteral("Aún no hay movimientos")));
 }
+
+TEST_F(CapturasHojas, thePreferencesStandWithTheirWarningTheirErrorAndTheirOpenList)
+{
+    plataforma.m_inicio.fallo = "No se pudo cambiar «/home/ana/.config/autostart»: no tienes permiso";
+    abrir(Seccion::ajustes);
+    ventana()->resize(1000, 1200);
+    plataforma.m_notificaciones.respuesta(true);
+    app().disco().fijarUmbralCritico(120);
+    esperarSegundoPlano(10'000);
+    pulsar(QAccessible::CheckBox, QStringLiteral("Abrir al iniciar sesión"));
+    esperar([&] { return seVe(mostrar(plataforma.m_inicio.fallo)); });
+    for (const bool oscuro : {false, true}) {
+        const QString aspecto = oscuro ? QStringLiteral("-oscura") : QString();
+        plataforma.m_apariencia.fijar({.oscuro = oscuro});
+        capturar(QStringLiteral("ajustes-advertencia") + aspecto);
+        auto *selector = qobject_cast<QQuickItem *>(
+            objeto(QAccessible::ComboBox, QStringLiteral("Avisar con batería baja"))->object());
+        selector->forceActiveFocus(Qt::TabFocusReason);
+        tecla(Qt::Key_Return);
+        esperar([&] { return objeto(QAccessible::ListItem, QStringLiteral("Nunca")) != nullptr; });
+        capturar(QStringLiteral("ajustes-selector") + aspecto);
+        tecla(Qt::Key_Escape);
+        esperar([&] { return objeto(QAccessible::ListItem, QStringLiteral("Nunca")) == nullptr; });
+        qobject_cast<QQuickItem *>(objeto(QAccessible::Button, QStringLiteral("Abrir la Papelera"))->object())
+            ->forceActiveFocus(Qt::TabFocusReason);
+        capturar(QStringLiteral("ajustes-abajo") + aspecto);
+    }
+}

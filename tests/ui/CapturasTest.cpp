@@ -45,5 +45,6 @@ INSTANTIATE_TEST_SUITE_P(Pantallas, Capturas,
                          testing::Values(Vista{"resumen", Seccion::resumen},
                                          Vista{"caches", Seccion::espacio},
                                          Vista{"historial", Seccion::historial},
+                                         Vista{"ajustes", Seccion::ajustes},
                                          Vista{"construccion", Seccion::memoria}),
                          [](const auto &info) { return info.param.nombre; });

@@ -13,6 +13,9 @@ using namespace ovanta;
 namespace {
 
 constexpr std::string_view usados[] = {"internaldrive",
+                                       "minus",
+                                       "plus",
+                                       "chevron.up.chevron.down",
                                        "exclamationmark.triangle.fill",
                                        "exclamationmark.octagon.fill",
                                        "sparkles",

@@ -37,6 +37,7 @@ constexpr Simbolo simbolos[] = {
     {"checkmark.shield", 0xe8e8},                            // verified_user
     {"checkmark.shield.fill", 0xe8e8},                       // verified_user
     {"chevron.right", 0xe5cc},                               // chevron_right
+    {"chevron.up.chevron.down", 0xe5d7},                     // unfold_more
     {"clock", 0xe8b5},                                       // schedule
     {"clock.arrow.circlepath", 0xe889},                      // history
     {"clock.badge.checkmark", 0xe2e6},                       // task_alt
@@ -73,10 +74,12 @@ constexpr Simbolo simbolos[] = {
     {"magnifyingglass", 0xe8b6},                             // search
     {"memorychip", 0xe322},                                  // memory
     {"menubar.rectangle", 0xe069},                           // web_asset
+    {"minus", 0xe15b},                                       // remove
     {"moon.zzz", 0xef44},                                    // bedtime
     {"photo", 0xe3f4},                                       // image
     {"photo.on.rectangle.angled", 0xe413},                   // photo_library
     {"photo.stack", 0xe3b6},                                 // collections
+    {"plus", 0xe145},                                        // add
     {"power", 0xe8ac},                                       // power_settings_new
     {"power.circle", 0xe932},                                // offline_bolt
     {"powerplug", 0xe63c},                                   // power
