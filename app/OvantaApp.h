@@ -4,6 +4,7 @@
 #include "core/Cleaner.h"
 #include "core/RuleStore.h"
 #include "monitors/DiskMonitor.h"
+#include "monitors/MemoryMonitor.h"
 #include "monitors/SystemStatsMonitor.h"
 #include "platform/Plataforma.h"
 
@@ -28,6 +29,7 @@ public:
     DiskMonitor &disco() { return m_disco; }
     RuleStore &reglas() { return m_reglas; }
     Cleaner &limpiador() { return m_limpiador; }
+    MemoryMonitor &mem() { return m_mem; }
     NavegacionAplicacion &navegacion() { return m_navegacion; }
     SystemStatsMonitor &stats() { return m_stats; }
 
@@ -36,6 +38,7 @@ private:
     DiskMonitor m_disco;
     RuleStore m_reglas;
     Cleaner m_limpiador;
+    MemoryMonitor m_mem;
     NavegacionAplicacion m_navegacion;
     SystemStatsMonitor m_stats;
 };
