@@ -1,7 +1,5 @@
 #include "monitors/CierreAplicaciones.h"
 
-#include "monitors/RankingProcesos.h"
-
 namespace ovanta {
 
 namespace {
@@ -16,6 +14,20 @@ IdentidadesProcesos identidadesDe(const std::set<std::int32_t> &pids, const Iden
     for (const std::int32_t pid : pids)
         if (const auto hallada = conocidas.find(pid); hallada != conocidas.end()) pedidas.insert(*hallada);
     return pedidas;
+}
+
+IdentidadesProcesos publicadasHasta(const IdentidadesProcesos &antes,
+                                    const std::vector<MuestraProceso> &muestras,
+                                    const std::vector<Proceso> &ranking)
+{
+    IdentidadesProcesos publicadas;
+    for (const Proceso &proceso : ranking)
+        publicadas[proceso.id] = proceso.inicio;
+    for (const MuestraProceso &muestra : muestras) {
+        const auto antigua = antes.find(muestra.pid);
+        if (antigua != antes.end() && antigua->second == muestra.inicio) publicadas.insert(*antigua);
+    }
+    return publicadas;
 }
 
 std::vector<AplicacionEnMarcha> appsCerrables(const std::vector<AplicacionEnMarcha> &apps,

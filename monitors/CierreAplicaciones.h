@@ -1,6 +1,8 @@
 #pragma once
 
+#include "monitors/RankingProcesos.h"
 #include "platform/AplicacionesEnMarcha.h"
+#include "platform/Procesos.h"
 
 #include <cstdint>
 #include <map>
@@ -26,6 +28,11 @@ using IdentidadesProcesos = std::map<std::int32_t, std::uint64_t>;
 
 /// The identities of the wanted pids, as far as they are known.
 IdentidadesProcesos identidadesDe(const std::set<std::int32_t> &pids, const IdentidadesProcesos &conocidas);
+
+/// What has been published by now: the rows of this ranking, and of the earlier ones what still runs.
+IdentidadesProcesos publicadasHasta(const IdentidadesProcesos &antes,
+                                    const std::vector<MuestraProceso> &muestras,
+                                    const std::vector<Proceso> &ranking);
 
 /// Of the applications that run now, those that were meant and that may be ended at all.
 std::vector<AplicacionEnMarcha> appsCerrables(const std::vector<AplicacionEnMarcha> &apps,

@@ -119,6 +119,7 @@ void MemoryMonitor::publicarProcesos(const Vistos &vistos)
     const FigurasCPU figuras = figurasCPU(m_cpuAnterior, tiempos, vistos.nucleos);
     m_cpuAnterior = std::move(tiempos);
     m_procesos = rankingProcesos(vistos.muestras, figuras, vistos.apps, vistos.identificadorPropio);
+    m_publicadas = publicadasHasta(m_publicadas, vistos.muestras, m_procesos);
 }
 
 void MemoryMonitor::publicarRecomendaciones(Fecha ahora)

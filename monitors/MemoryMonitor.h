@@ -81,7 +81,7 @@ public:
     /// Reads everything again, in the background. While a reading is under way only `total` is read.
     Q_INVOKABLE void medir();
 
-    /// Asks the applications of the ranking with these pids to quit and waits for them, 8 seconds at
+    /// Asks the applications that were published under these pids to quit and waits for them, 8 seconds at
     /// most. A pid that has gone to another process since it was published is left alone.
     QCoro::Task<ResultadoCierre> cerrarAplicaciones(std::set<std::int32_t> pids);
 
@@ -120,7 +120,6 @@ private:
     void publicarRecomendaciones(Fecha ahora);
 
     // Closing; these touch no published field.
-    IdentidadesProcesos identidades() const;
     QCoro::Task<Apps> ordenar(IdentidadesProcesos pedidas, Orden orden);
     QCoro::Task<> esperarFin(Apps apps, int vueltas, std::chrono::milliseconds pausa);
     QCoro::Task<> terminarRestos(AplicacionEnMarcha app);
@@ -141,6 +140,7 @@ private:
     QFuture<void> m_lecturaEnCurso;
     std::optional<LecturaSwap> m_anterior;
     TiemposCPU m_cpuAnterior;
+    IdentidadesProcesos m_publicadas;
     IdentidadesProcesos m_sinCerrar; ///< of the latest closing
     std::unique_ptr<Reloj::Temporizador> m_temporizador;
 };

@@ -23,14 +23,6 @@ constexpr std::chrono::milliseconds pausaDeRestos = 1s;
 
 } // namespace
 
-IdentidadesProcesos MemoryMonitor::identidades() const
-{
-    IdentidadesProcesos publicadas;
-    for (const Proceso &proceso : m_procesos)
-        publicadas[proceso.id] = proceso.inicio;
-    return publicadas;
-}
-
 QCoro::Task<> MemoryMonitor::pausar(std::chrono::milliseconds cuanto)
 {
     auto promesa = std::make_shared<QPromise<void>>();
@@ -106,7 +98,7 @@ QCoro::Task<ResultadoCierre> MemoryMonitor::cerrarAplicaciones(std::set<std::int
 {
     OVANTA_HILO_PRINCIPAL();
     const QPointer vivo{this};
-    auto ordenes = ordenar(identidadesDe(pids, identidades()), &AplicacionesEnMarcha::cerrar);
+    auto ordenes = ordenar(identidadesDe(pids, m_publicadas), &AplicacionesEnMarcha::cerrar);
     const Apps apps = co_await ordenes;
     if (!vivo) co_return {};
     auto fin = esperarFin(apps, vueltasAlCerrar, pausaAlCerrar);
@@ -138,7 +130,7 @@ QCoro::Task<std::vector<std::string>> MemoryMonitor::forzarSalida(std::set<std::
     OVANTA_HILO_PRINCIPAL();
     const QPointer vivo{this};
     IdentidadesProcesos conocidas = m_sinCerrar;
-    conocidas.merge(identidades());
+    conocidas.insert(m_publicadas.begin(), m_publicadas.end());
     auto ordenes = ordenar(identidadesDe(pids, conocidas), &AplicacionesEnMarcha::forzar);
     const Apps apps = co_await ordenes;
     if (!vivo) co_return {};
