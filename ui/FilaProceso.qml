@@ -15,13 +15,14 @@ Item {
     required property string memoria
     required property double fraccion
     required property int tinteMemoria
+    required property string resumen
     required property bool seleccionable
     required property bool seleccionada
 
     height: 46
     Accessible.role: Accessible.ListItem
     Accessible.name: nombre
-    Accessible.description: [cuantos, cpu, memoria].filter(texto => texto !== "").join(", ")
+    Accessible.description: resumen
     Keys.onSpacePressed: raiz.estado.marcar(raiz.pid, !raiz.seleccionada)
 
     Rectangle {

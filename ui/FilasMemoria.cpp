@@ -99,6 +99,9 @@ FilaProceso filaDeProceso(const Proceso &proceso, std::uint64_t total, bool sele
     const double fraccion = fraccionMemoria(proceso.rss, total);
     fila.fraccion = std::min(fraccion, 1.0);
     fila.tinteMemoria = tinteDeMemoria(fraccion);
+    QStringList figuras{fila.cuantos, fila.cpu, fila.memoria};
+    figuras.removeAll(QString());
+    fila.resumen = figuras.join(QStringLiteral(", "));
     fila.seleccionable = proceso.sePuedeCerrar;
     fila.seleccionada = seleccionada;
     return fila;

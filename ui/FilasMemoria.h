@@ -58,6 +58,7 @@ struct FilaProceso
     Q_PROPERTY(QString memoria MEMBER memoria)
     Q_PROPERTY(double fraccion MEMBER fraccion)
     Q_PROPERTY(ovanta::Tinte tinteMemoria MEMBER tinteMemoria)
+    Q_PROPERTY(QString resumen MEMBER resumen)
     Q_PROPERTY(bool seleccionable MEMBER seleccionable)
     Q_PROPERTY(bool seleccionada MEMBER seleccionada)
 public:
@@ -71,6 +72,7 @@ public:
     QString memoria;
     double fraccion = 0; ///< of the whole memory, from 0 to 1
     Tinte tinteMemoria = Tinte::Azul;
+    QString resumen; ///< its figures in one line, for those who do not see the table
     bool seleccionable = false;
     bool seleccionada = false;
 

@@ -15,14 +15,13 @@ Item {
         delay: 600
         x: Math.round((raiz.width - width) / 2)
         y: -height - Tema.espacio1
-        width: Math.min(300, contenido.implicitWidth + leftPadding + rightPadding)
-        implicitHeight: contenido.implicitHeight + topPadding + bottomPadding
+        width: Math.min(300, implicitContentWidth + leftPadding + rightPadding)
+        implicitHeight: implicitContentHeight + topPadding + bottomPadding
         margins: Tema.espacio2
         padding: Tema.espacio2
         leftPadding: Tema.espacio3
         rightPadding: Tema.espacio3
         contentItem: Nota {
-            id: contenido
             text: raiz.texto
             color: Tema.colores.texto
             wrapMode: Text.Wrap
