@@ -5,6 +5,7 @@
 #include "core/Cleaner.h"
 #include "core/RuleStore.h"
 #include "monitors/DiskMonitor.h"
+#include "monitors/MemoryMonitor.h"
 #include "monitors/SystemStatsMonitor.h"
 #include "platform/Plataforma.h"
 
@@ -30,6 +31,7 @@ public:
     RuleStore &reglas() { return m_reglas; }
     Cleaner &limpiador() { return m_limpiador; }
     Scanner &scanner() { return m_scanner; }
+    MemoryMonitor &mem() { return m_mem; }
     NavegacionAplicacion &navegacion() { return m_navegacion; }
     SystemStatsMonitor &stats() { return m_stats; }
 
@@ -39,6 +41,7 @@ private:
     RuleStore m_reglas;
     Cleaner m_limpiador;
     Scanner m_scanner;
+    MemoryMonitor m_mem;
     NavegacionAplicacion m_navegacion;
     SystemStatsMonitor m_stats;
 };

@@ -28,6 +28,8 @@ QString vistaDe(Seccion seccion)
         return QStringLiteral("ResumenView");
     case Seccion::espacio:
         return QStringLiteral("SpaceView");
+    case Seccion::memoria:
+        return QStringLiteral("MemoryView");
     case Seccion::historial:
         return QStringLiteral("HistorialView");
     case Seccion::ajustes:

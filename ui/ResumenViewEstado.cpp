@@ -17,6 +17,7 @@ ResumenViewEstado::ResumenViewEstado(QObject *parent) : QObject(parent), m_app(O
     connect(&m_app.disco(), &DiskMonitor::ajustesChanged, this, &ResumenViewEstado::actualizar);
     connect(&m_app.reglas(), &RuleStore::reglasChanged, this, &ResumenViewEstado::actualizar);
     connect(&m_app.reglas(), &RuleStore::midiendoChanged, this, &ResumenViewEstado::actualizar);
+    connect(&m_app.mem(), &MemoryMonitor::lecturaChanged, this, &ResumenViewEstado::actualizar);
     actualizar();
 }
 
@@ -97,6 +98,7 @@ void ResumenViewEstado::alMostrar()
 void ResumenViewEstado::analizarTodo()
 {
     m_app.disco().medir();
+    m_app.mem().medir();
     m_app.reglas().medir();
 }
 

@@ -30,8 +30,10 @@ TEST_P(Capturas, everyScreenStandsInEveryLookAndSize)
 {
     ponerCatalogoRealista();
     ponerHistorial(500);
+    ponerMemoria();
     app();
     medir();
+    leerMemoria();
     abrir(GetParam().seccion);
     retratar(QStringLiteral("clara"), {.oscuro = false}, {1000, 700});
     retratar(QStringLiteral("oscura"), {.oscuro = true}, {1000, 700});
@@ -46,5 +48,6 @@ INSTANTIATE_TEST_SUITE_P(Pantallas, Capturas,
                                          Vista{"caches", Seccion::espacio},
                                          Vista{"historial", Seccion::historial},
                                          Vista{"ajustes", Seccion::ajustes},
-                                         Vista{"construccion", Seccion::memoria}),
+                                         Vista{"memoria", Seccion::memoria},
+                                         Vista{"construccion", Seccion::salud}),
                          [](const auto &info) { return info.param.nombre; });

@@ -2,15 +2,19 @@ import QtQuick
 import QtQuick.Layouts
 import Ovanta
 
-/// Asks before anything moves. The focus starts on the way out.
+/// Asks before something is done. The focus starts on the way out.
 Dialogo {
     id: raiz
+    property string mensaje
+    property string accion
+    property string simbolo
+    property bool destructiva
     signal confirmada
 
     width: Math.min(440, parent.width - 2 * Tema.margen)
     focoInicial: cancelar
     Texto {
-        text: "Nada se elimina: todo va a la Papelera y puedes recuperarlo desde Finder. El espacio se libera al vaciarla."
+        text: raiz.mensaje
         color: Tema.colores.secundario
         wrapMode: Text.Wrap
         lineHeight: 1.25
@@ -23,9 +27,9 @@ Dialogo {
             onClicked: raiz.close()
         },
         Boton {
-            variante: Boton.Primario
-            simbolo: "trash"
-            text: "Mover a la Papelera"
+            variante: raiz.destructiva ? Boton.Destructivo : Boton.Primario
+            simbolo: raiz.simbolo
+            text: raiz.accion
             onClicked: raiz.confirmada()
         }
     ]
