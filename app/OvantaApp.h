@@ -3,6 +3,7 @@
 #include "app/NavegacionAplicacion.h"
 #include "core/Cleaner.h"
 #include "core/RuleStore.h"
+#include "developer/SimulatorStore.h"
 #include "monitors/DiskMonitor.h"
 #include "monitors/SystemStatsMonitor.h"
 #include "platform/Plataforma.h"
@@ -26,6 +27,7 @@ public:
     Plataforma &plataforma() { return m_plataforma; }
 
     DiskMonitor &disco() { return m_disco; }
+    SimulatorStore &sims() { return m_sims; }
     RuleStore &reglas() { return m_reglas; }
     Cleaner &limpiador() { return m_limpiador; }
     NavegacionAplicacion &navegacion() { return m_navegacion; }
@@ -34,6 +36,7 @@ public:
 private:
     Plataforma &m_plataforma;
     DiskMonitor m_disco;
+    SimulatorStore m_sims;
     RuleStore m_reglas;
     Cleaner m_limpiador;
     NavegacionAplicacion m_navegacion;

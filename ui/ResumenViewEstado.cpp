@@ -3,6 +3,7 @@
 #include "core/qt/Formato.h"
 #include "core/qt/Texto.h"
 #include "ui/AsegurarReglas.h"
+#include "ui/AsegurarSimuladores.h"
 #include "ui/AspectoNivel.h"
 #include "ui/Ovanta.h"
 
@@ -17,6 +18,8 @@ ResumenViewEstado::ResumenViewEstado(QObject *parent) : QObject(parent), m_app(O
     connect(&m_app.disco(), &DiskMonitor::ajustesChanged, this, &ResumenViewEstado::actualizar);
     connect(&m_app.reglas(), &RuleStore::reglasChanged, this, &ResumenViewEstado::actualizar);
     connect(&m_app.reglas(), &RuleStore::midiendoChanged, this, &ResumenViewEstado::actualizar);
+    connect(&m_app.sims(), &SimulatorStore::simuladoresChanged, this, &ResumenViewEstado::actualizar);
+    connect(&m_app.sims(), &SimulatorStore::estadoChanged, this, &ResumenViewEstado::actualizar);
     actualizar();
 }
 
@@ -92,12 +95,14 @@ QString ResumenViewEstado::textoAnalizar() const
 void ResumenViewEstado::alMostrar()
 {
     asegurarReglas(m_app.reglas());
+    asegurarSimuladores(m_app.sims());
 }
 
 void ResumenViewEstado::analizarTodo()
 {
     m_app.disco().medir();
     m_app.reglas().medir();
+    m_app.sims().cargar();
 }
 
 void ResumenViewEstado::verPapelera()

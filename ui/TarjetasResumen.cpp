@@ -115,6 +115,12 @@ EntradasResumen leerEntradas(OvantaApp &app)
     EntradasResumen entradas;
     entradas.bytesReglas = app.reglas().bytesRecuperables();
     entradas.midiendoReglas = app.reglas().midiendo();
+    const std::vector<Simulador> nuevos = app.sims().nuevos();
+    entradas.cargandoSimuladores = app.sims().cargando() || app.sims().midiendoTamanos();
+    entradas.simuladores = app.sims().simuladores().size();
+    entradas.simuladoresNuevos = nuevos.size();
+    entradas.bytesNuevos = SimulatorStore::sumaDeBytes(nuevos);
+    entradas.diasNuevo = app.sims().diasNuevo();
     return entradas;
 }
 

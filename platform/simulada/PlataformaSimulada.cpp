@@ -3,6 +3,7 @@
 #include "core/Catalogo.h"
 #include "core/LeerArchivo.h"
 #include "core/Recursos.h"
+#include "platform/simulada/SimuladoresSinteticos.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -44,6 +45,7 @@ PlataformaSimulada::PlataformaSimulada(const Opciones &opciones)
 {
     if (opciones.relojDetenido) m_reloj.detener(*opciones.relojDetenido);
     m_apariencia.fijar(opciones.apariencia);
+    m_herramientas.programar("xcrun", responderXcrun);
     m_casa.amueblar(rutasDelCatalogo(m_lugares.catalogo), m_reloj.ahora());
 }
 
