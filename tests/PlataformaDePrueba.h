@@ -172,9 +172,11 @@ struct AplicacionesDePrueba final : Aplicaciones
 struct AparienciaDePrueba final : Apariencia
 {
     Estado estado;
+    bool mezcla = false;
     std::vector<std::function<void()>> oyentes;
 
     Estado actual() const override { return estado; }
+    bool transparencia() const override { return mezcla; }
     void alCambiar(std::function<void()> accion) override { oyentes.push_back(std::move(accion)); }
     void fijar(Estado nuevo)
     {
