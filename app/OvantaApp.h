@@ -5,6 +5,7 @@
 #include "core/RuleStore.h"
 #include "developer/SimulatorStore.h"
 #include "monitors/DiskMonitor.h"
+#include "monitors/MemoryMonitor.h"
 #include "monitors/SystemStatsMonitor.h"
 #include "platform/Plataforma.h"
 
@@ -30,6 +31,7 @@ public:
     SimulatorStore &sims() { return m_sims; }
     RuleStore &reglas() { return m_reglas; }
     Cleaner &limpiador() { return m_limpiador; }
+    MemoryMonitor &mem() { return m_mem; }
     NavegacionAplicacion &navegacion() { return m_navegacion; }
     SystemStatsMonitor &stats() { return m_stats; }
 
@@ -39,6 +41,7 @@ private:
     SimulatorStore m_sims;
     RuleStore m_reglas;
     Cleaner m_limpiador;
+    MemoryMonitor m_mem;
     NavegacionAplicacion m_navegacion;
     SystemStatsMonitor m_stats;
 };

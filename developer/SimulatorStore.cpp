@@ -133,10 +133,10 @@ void SimulatorStore::fijarDiasNuevo(int dias)
     Q_EMIT simuladoresChanged();
 }
 
-std::optional<long> SimulatorStore::dias(const Simulador &simulador) const
+std::optional<int> SimulatorStore::dias(const Simulador &simulador) const
 {
     if (!simulador.creado) return std::nullopt;
-    return diasDeCalendario(*simulador.creado, m_plataforma.reloj().ahora());
+    return diasEntre(*simulador.creado, m_plataforma.reloj().ahora());
 }
 
 bool SimulatorStore::esNuevo(const Simulador &simulador) const

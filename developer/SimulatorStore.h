@@ -46,7 +46,7 @@ public:
     void fijarSeleccion(std::set<std::string> seleccion);
 
     /// Whole calendar days since it was made; nothing where that is not known.
-    std::optional<long> dias(const Simulador &simulador) const;
+    std::optional<int> dias(const Simulador &simulador) const;
     /// Those that were made within `diasNuevo` days and are not running.
     std::vector<Simulador> nuevos() const;
 

@@ -4,6 +4,7 @@
 #include "platform/AnfitrionBandeja.h"
 #include "platform/Apariencia.h"
 #include "platform/Aplicaciones.h"
+#include "platform/AplicacionesEnMarcha.h"
 #include "platform/Archivos.h"
 #include "platform/Bateria.h"
 #include "platform/Contadores.h"
@@ -12,8 +13,11 @@
 #include "platform/Herramientas.h"
 #include "platform/InstanciaUnica.h"
 #include "platform/Lugares.h"
+#include "platform/MemoriaSistema.h"
 #include "platform/Notificaciones.h"
 #include "platform/Papelera.h"
+#include "platform/Procesos.h"
+#include "platform/Reinicio.h"
 #include "platform/Reloj.h"
 #include "platform/Suspension.h"
 #include "platform/Termico.h"
@@ -46,6 +50,10 @@ public:
     virtual Contadores &contadores() = 0;
     virtual Termico &termico() = 0;
     virtual Bateria &bateria() = 0;
+    virtual MemoriaSistema &memoriaSistema() = 0;
+    virtual Procesos &procesos() = 0;
+    virtual AplicacionesEnMarcha &aplicacionesEnMarcha() = 0;
+    virtual Reinicio &reinicio() = 0;
 };
 
 } // namespace ovanta

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Plataforma.h"
+#include "tests/MemoriaDePrueba.h"
 #include "tests/PreferenciasEnMemoria.h"
 #include "tests/RelojManual.h"
 
@@ -280,6 +281,10 @@ struct PlataformaDePrueba : Plataforma
     ContadoresDePrueba m_contadores;
     TermicoDePrueba m_termico;
     BateriaDePrueba m_bateria;
+    MemoriaDePrueba m_memoriaSistema;
+    ProcesosDePrueba m_procesos;
+    AplicacionesEnMarchaDePrueba m_enMarcha;
+    ReinicioDePrueba m_reinicio;
 
     const Lugares &lugares() const override { return m_lugares; }
     Preferencias &preferencias() override { return m_preferencias; }
@@ -299,6 +304,10 @@ struct PlataformaDePrueba : Plataforma
     Contadores &contadores() override { return m_contadores; }
     Termico &termico() override { return m_termico; }
     Bateria &bateria() override { return m_bateria; }
+    MemoriaSistema &memoriaSistema() override { return m_memoriaSistema; }
+    Procesos &procesos() override { return m_procesos; }
+    AplicacionesEnMarcha &aplicacionesEnMarcha() override { return m_enMarcha; }
+    Reinicio &reinicio() override { return m_reinicio; }
 };
 
 } // namespace ovanta::pruebas

@@ -22,9 +22,11 @@ BloqueMenu {
         simbolo: "memorychip"
         nombre: "Memoria"
         valor: raiz.estado.ram
+        detalle: raiz.estado.memoria
+        tintaDetalle: Tema.colores.tinta(raiz.estado.tinteMemoria)
         historial: raiz.estado.historialRAM
         maximo: 1
-        tintaCurva: Tema.colores.morado
+        tintaCurva: Tema.colores.tinta(raiz.estado.tinteCurvaMemoria)
     }
     FilaViva {
         simbolo: "arrow.up.arrow.down"

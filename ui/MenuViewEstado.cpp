@@ -39,6 +39,7 @@ MenuViewEstado::MenuViewEstado(QObject *parent)
         connect(&m_app.disco(), senal, this, &MenuViewEstado::discoChanged);
     for (const auto senal : {&SystemStatsMonitor::muestraChanged, &SystemStatsMonitor::bateriaChanged})
         connect(&m_app.stats(), senal, this, &MenuViewEstado::vivoChanged);
+    connect(&m_app.mem(), &MemoryMonitor::lecturaChanged, this, &MenuViewEstado::memoriaChanged);
     for (const auto senal : {&SimulatorStore::simuladoresChanged, &SimulatorStore::estadoChanged})
         connect(&m_app.sims(), senal, this, &MenuViewEstado::simuladoresChanged);
 }
@@ -78,6 +79,21 @@ Tinte MenuViewEstado::tinteCPU() const
 QList<double> MenuViewEstado::historialCPU() const
 {
     return lista(m_app.stats().historialCPU());
+}
+
+QString MenuViewEstado::memoria() const
+{
+    return textoPresion(m_app.mem().estado());
+}
+
+Tinte MenuViewEstado::tinteMemoria() const
+{
+    return tintePresion(m_app.mem().estado());
+}
+
+Tinte MenuViewEstado::tinteCurvaMemoria() const
+{
+    return tinteCurvaPresion(m_app.mem().estado());
 }
 
 QString MenuViewEstado::ram() const

@@ -30,6 +30,10 @@ class MenuViewEstado : public QObject
     Q_PROPERTY(QString cpu READ cpu NOTIFY vivoChanged)
     Q_PROPERTY(ovanta::Tinte tinteCPU READ tinteCPU NOTIFY vivoChanged)
     Q_PROPERTY(QList<double> historialCPU READ historialCPU NOTIFY vivoChanged)
+    /// How short of memory the machine is, in words and in the colours of the words and of the curve.
+    Q_PROPERTY(QString memoria READ memoria NOTIFY memoriaChanged)
+    Q_PROPERTY(ovanta::Tinte tinteMemoria READ tinteMemoria NOTIFY memoriaChanged)
+    Q_PROPERTY(ovanta::Tinte tinteCurvaMemoria READ tinteCurvaMemoria NOTIFY memoriaChanged)
     Q_PROPERTY(QString ram READ ram NOTIFY vivoChanged)
     Q_PROPERTY(QList<double> historialRAM READ historialRAM NOTIFY vivoChanged)
     Q_PROPERTY(QString bajada READ bajada NOTIFY vivoChanged)
@@ -63,6 +67,9 @@ public:
     QString cpu() const;
     Tinte tinteCPU() const;
     QList<double> historialCPU() const;
+    QString memoria() const;
+    Tinte tinteMemoria() const;
+    Tinte tinteCurvaMemoria() const;
     QString ram() const;
     QList<double> historialRAM() const;
     QString bajada() const;
@@ -90,6 +97,7 @@ public:
 Q_SIGNALS:
     void discoChanged();
     void vivoChanged();
+    void memoriaChanged();
     void simuladoresChanged();
 
 private:

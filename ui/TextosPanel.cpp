@@ -32,6 +32,38 @@ Tinte tinteProcesador(double fraccion)
     return fraccion > 0.5 ? Tinte::Naranja : Tinte::Azul;
 }
 
+QString textoPresion(EstadoMemoria estado)
+{
+    switch (estado) {
+    case EstadoMemoria::normal:
+        return QStringLiteral("Presión normal");
+    case EstadoMemoria::tension:
+        return QStringLiteral("Presión alta");
+    case EstadoMemoria::critico:
+        return QStringLiteral("Presión crítica");
+    }
+    Q_UNREACHABLE();
+}
+
+Tinte tintePresion(EstadoMemoria estado)
+{
+    switch (estado) {
+    case EstadoMemoria::normal:
+        return Tinte::Secundario;
+    case EstadoMemoria::tension:
+        return Tinte::Naranja;
+    case EstadoMemoria::critico:
+        return Tinte::Rojo;
+    }
+    Q_UNREACHABLE();
+}
+
+Tinte tinteCurvaPresion(EstadoMemoria estado)
+{
+    const Tinte tinte = tintePresion(estado);
+    return tinte == Tinte::Secundario ? Tinte::Morado : tinte;
+}
+
 QString textoVelocidad(double bytesPorSegundo)
 {
     if (!(bytesPorSegundo >= 1000)) return QStringLiteral("0 KB/s");

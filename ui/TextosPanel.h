@@ -1,5 +1,6 @@
 #pragma once
 
+#include "monitors/EstadoMemoria.h"
 #include "platform/Bateria.h"
 #include "ui/componentes/Paleta.h"
 
@@ -14,6 +15,11 @@ QString textoPorcentaje(double fraccion);
 
 /// Blue, above a half orange, above four fifths red.
 Tinte tinteProcesador(double fraccion);
+
+/// How short of memory the machine is; the curve is purple where the words are in the quiet colour.
+QString textoPresion(EstadoMemoria estado);
+Tinte tintePresion(EstadoMemoria estado);
+Tinte tinteCurvaPresion(EstadoMemoria estado);
 
 /// Bytes a second: below 1000 "0 KB/s", below a million in whole kilobytes, then in MB or GB.
 QString textoVelocidad(double bytesPorSegundo);

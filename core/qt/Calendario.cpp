@@ -3,16 +3,17 @@
 #include "core/qt/Formato.h"
 
 #include <QDateTime>
+#include <algorithm>
 
 namespace ovanta {
 
-long diasDeCalendario(Fecha desde, Fecha hasta)
+int diasEntre(Fecha desde, Fecha hasta)
 {
-    if (hasta < desde) return -diasDeCalendario(hasta, desde);
     const QDateTime principio = enQt(desde);
     const QDateTime fin = enQt(hasta);
-    const qint64 dias = principio.date().daysTo(fin.date());
-    return static_cast<long>(principio.addDays(dias) > fin ? dias - 1 : dias);
+    qint64 dias = principio.daysTo(fin);
+    if (principio.addDays(dias) > fin) --dias;
+    return static_cast<int>(std::max<qint64>(dias, 0));
 }
 
 } // namespace ovanta

@@ -4,8 +4,8 @@
 
 namespace ovanta {
 
-/// The whole days of the local calendar from one moment to another: so often does the clock come round
-/// to the same time of day. Negative where `hasta` is earlier, cut towards zero.
-long diasDeCalendario(Fecha desde, Fecha hasta);
+/// How many whole days lie between two moments in the user's calendar and time zone: a day is over when
+/// the clock on the wall shows the same time again. 0 where `hasta` is the earlier one.
+int diasEntre(Fecha desde, Fecha hasta);
 
 } // namespace ovanta

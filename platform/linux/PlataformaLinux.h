@@ -13,6 +13,7 @@
 #include "platform/linux/HerramientasLinux.h"
 #include "platform/linux/InstanciaUnicaLinux.h"
 #include "platform/linux/LugaresLinux.h"
+#include "platform/linux/MemoriaSinLeer.h"
 #include "platform/linux/NotificacionesLinux.h"
 #include "platform/linux/PapeleraLinux.h"
 #include "platform/linux/RelojLinux.h"
@@ -47,6 +48,10 @@ public:
     Contadores &contadores() override { return m_contadores; }
     Termico &termico() override { return m_termico; }
     Bateria &bateria() override { return m_bateria; }
+    MemoriaSistema &memoriaSistema() override { return m_memoriaSistema; }
+    Procesos &procesos() override { return m_procesos; }
+    AplicacionesEnMarcha &aplicacionesEnMarcha() override { return m_aplicacionesEnMarcha; }
+    Reinicio &reinicio() override { return m_reinicio; }
 
 private:
     EntornoLugares m_entorno;
@@ -69,6 +74,10 @@ private:
     ContadoresLinux m_contadores;
     TermicoLinux m_termico;
     BateriaLinux m_bateria{QDBusConnection::systemBus()};
+    MemoriaSinLeer m_memoriaSistema;
+    ProcesosSinLeer m_procesos;
+    AplicacionesSinLeer m_aplicacionesEnMarcha;
+    ReinicioImposible m_reinicio;
 };
 
 } // namespace ovanta

@@ -40,10 +40,11 @@ PlataformaSimulada::Opciones PlataformaSimulada::Opciones::delPrograma()
 PlataformaSimulada::PlataformaSimulada(const Opciones &opciones)
     : m_lugares{m_casa.hogar(), {}, opciones.recursos + "/macos/rules.json", opciones.recursos},
       m_preferencias(m_casa.hogar() + "/Library/Preferences/com.belmora.Ovanta.ini", m_registro),
-      m_papelera(m_casa.hogar(), m_reloj, m_registro), m_herramientas(m_registro),
-      m_notificaciones(m_registro), m_dialogo(m_registro), m_gestor(m_papelera.carpeta(), m_registro)
+      m_reloj(opciones.relojDetenido), m_papelera(m_casa.hogar(), m_reloj, m_registro),
+      m_herramientas(m_registro), m_notificaciones(m_registro), m_dialogo(m_registro),
+      m_gestor(m_papelera.carpeta(), m_registro)
 {
-    if (opciones.relojDetenido) m_reloj.detener(*opciones.relojDetenido);
+    m_herramientas.programar("osascript", [](const auto &) { return std::string{}; });
     m_apariencia.fijar(opciones.apariencia);
     m_herramientas.programar("xcrun", responderXcrun);
     m_casa.amueblar(rutasDelCatalogo(m_lugares.catalogo), m_reloj.ahora());

@@ -6,11 +6,14 @@
 #include "platform/simulada/CasaSintetica.h"
 #include "platform/simulada/EscritorioSimulado.h"
 #include "platform/simulada/HerramientasSimuladas.h"
+#include "platform/simulada/MemoriaSimulada.h"
 #include "platform/simulada/PapeleraSimulada.h"
 #include "platform/simulada/PreferenciasRegistradas.h"
 #include "platform/simulada/RegistroMutaciones.h"
+#include "platform/simulada/ReinicioSimulado.h"
 #include "platform/simulada/RelojSimulado.h"
 #include "platform/simulada/SensoresSimulados.h"
+#include "platform/simulada/SesionSimulada.h"
 #include "platform/simulada/VolumenSimulado.h"
 
 namespace ovanta {
@@ -60,6 +63,10 @@ public:
     ContadoresSimulados &contadores() override { return m_contadores; }
     TermicoSimulado &termico() override { return m_termico; }
     BateriaSimulada &bateria() override { return m_bateria; }
+    MemoriaSimulada &memoriaSistema() override { return m_memoria; }
+    SesionSimulada &procesos() override { return m_sesion; }
+    SesionSimulada &aplicacionesEnMarcha() override { return m_sesion; }
+    ReinicioSimulado &reinicio() override { return m_reinicio; }
 
 private:
     RegistroMutaciones m_registro;
@@ -82,6 +89,9 @@ private:
     ContadoresSimulados m_contadores{m_reloj};
     TermicoSimulado m_termico;
     BateriaSimulada m_bateria{m_reloj};
+    MemoriaSimulada m_memoria{m_reloj};
+    SesionSimulada m_sesion{m_reloj, m_registro};
+    ReinicioSimulado m_reinicio{m_herramientas};
 };
 
 } // namespace ovanta

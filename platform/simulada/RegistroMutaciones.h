@@ -9,11 +9,19 @@ namespace ovanta {
 /// Something that the program did to the simulated machine.
 struct Mutacion
 {
-    enum class Clase { movimiento, herramienta, ajuste, notificacion, dialogo, archivoMostrado };
+    enum class Clase {
+        movimiento,
+        herramienta,
+        ajuste,
+        notificacion,
+        dialogo,
+        archivoMostrado,
+        aplicacion,
+    };
 
     Clase clase;
-    std::string objeto;  ///< path, tool, key or notice that it was about
-    std::string detalle; ///< where it went, arguments or text
+    std::string objeto;  ///< path, tool, key, notice or application that it was about
+    std::string detalle; ///< where it went, arguments, text or order
 
     bool operator==(const Mutacion &) const = default;
 };

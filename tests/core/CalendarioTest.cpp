@@ -8,9 +8,9 @@ using namespace ovanta;
 
 namespace {
 
-long dias(const char *desde, const char *hasta)
+int dias(const char *desde, const char *hasta)
 {
-    return diasDeCalendario(*leerISO8601(desde), *leerISO8601(hasta));
+    return diasEntre(*leerISO8601(desde), *leerISO8601(hasta));
 }
 
 /// The process's time zone, put back with the object.
@@ -40,9 +40,9 @@ TEST(Calendario, aDayIsWholeWhenTheClockComesRoundToItsTime)
     EXPECT_EQ(dias("2024-02-28T12:00:00Z", "2024-03-01T12:00:00Z"), 2);
 }
 
-TEST(Calendario, theOtherWayRoundItIsNegativeAndCutTowardsZero)
+TEST(Calendario, theOtherWayRoundThereAreNone)
 {
-    EXPECT_EQ(dias("2026-11-21T10:00:00Z", "2026-11-14T10:00:00Z"), -7);
+    EXPECT_EQ(dias("2026-11-21T10:00:00Z", "2026-11-14T10:00:00Z"), 0);
     EXPECT_EQ(dias("2026-11-21T10:00:00Z", "2026-11-21T09:00:00Z"), 0);
 }
 
