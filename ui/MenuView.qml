@@ -10,8 +10,6 @@ FocusScope {
     implicitHeight: columna.implicitHeight + 2 * Tema.espacio3
     Component.onCompleted: estado.alMostrar()
     Keys.onEscapePressed: raiz.cerrar()
-    Accessible.role: Accessible.Pane
-    Accessible.name: "Panel de Ovanta"
     MenuViewEstado { id: estado }
 
     ColumnLayout {

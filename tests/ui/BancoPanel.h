@@ -2,18 +2,14 @@
 
 #include "tests/ui/BancoInterfaz.h"
 
-#include <QPointer>
-#include <QQmlEngine>
-#include <QSignalSpy>
-
 namespace ovanta::pruebas {
 
-/// The program with the panel of its tray open, over a machine with simulators.
+/// The program over a machine with Xcode, whose panel can be opened. What `BancoVentana` looks for and
+/// presses is in the panel while the main window is closed.
 class BancoPanel : public BancoVentana
 {
 protected:
     BancoPanel();
-    ~BancoPanel() override { interfaz.reset(); }
 
     /// Makes the windows, as yet none.
     InterfazQml &ventanas();
@@ -21,12 +17,10 @@ protected:
     QQuickWindow *panel() const;
     /// So many simulators of these ages in days; a negative one has no folder.
     void ponerSimuladores(const std::vector<int> &edades);
-    /// Samples of a machine at work.
+    /// Half a minute and more of a machine at work, the last value of the processor being `cpu`.
     void ponerFiguras(double cpu = 0.23);
+    /// How often the simulators were listed.
     int simctls() const;
-
-private:
-    std::string m_lista;
 };
 
 } // namespace ovanta::pruebas
