@@ -4,6 +4,7 @@
 #include "app/NavegacionAplicacion.h"
 #include "core/Cleaner.h"
 #include "core/RuleStore.h"
+#include "developer/SimulatorStore.h"
 #include "monitors/DiskMonitor.h"
 #include "monitors/MemoryMonitor.h"
 #include "monitors/SystemStatsMonitor.h"
@@ -28,6 +29,7 @@ public:
     Plataforma &plataforma() { return m_plataforma; }
 
     DiskMonitor &disco() { return m_disco; }
+    SimulatorStore &sims() { return m_sims; }
     RuleStore &reglas() { return m_reglas; }
     Cleaner &limpiador() { return m_limpiador; }
     Scanner &scanner() { return m_scanner; }
@@ -38,6 +40,7 @@ public:
 private:
     Plataforma &m_plataforma;
     DiskMonitor m_disco;
+    SimulatorStore m_sims;
     RuleStore m_reglas;
     Cleaner m_limpiador;
     Scanner m_scanner;

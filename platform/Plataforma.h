@@ -5,6 +5,7 @@
 #include "platform/Apariencia.h"
 #include "platform/Aplicaciones.h"
 #include "platform/AplicacionesEnMarcha.h"
+#include "platform/Archivos.h"
 #include "platform/Bateria.h"
 #include "platform/Contadores.h"
 #include "platform/DialogoCritico.h"
@@ -37,6 +38,7 @@ public:
     virtual Preferencias &preferencias() = 0;
     virtual Reloj &reloj() = 0;
     virtual Volumen &volumen() = 0;
+    virtual Archivos &archivos() = 0;
     virtual Papelera &papelera() = 0;
     virtual Herramientas &herramientas() = 0;
     virtual Aplicaciones &aplicaciones() = 0;

@@ -10,6 +10,7 @@
 #include <functional>
 #include <map>
 #include <mutex>
+#include <set>
 #include <utility>
 #include <vector>
 
@@ -38,7 +39,12 @@ struct HerramientasDePrueba final : Herramientas
         }
         return alEjecutar(binario, args);
     }
-    std::optional<std::string> buscarBinario(std::string_view) override { return std::nullopt; }
+    std::set<std::string, std::less<>> instaladas; ///< what `buscarBinario` finds, at /usr/bin
+    std::optional<std::string> buscarBinario(std::string_view nombre) override
+    {
+        if (!instaladas.contains(nombre)) return std::nullopt;
+        return "/usr/bin/" + std::string(nombre);
+    }
 };
 
 struct VolumenDePrueba final : Volumen
@@ -51,6 +57,17 @@ struct VolumenDePrueba final : Volumen
     {
         ++lecturas;
         listo(espacio);
+    }
+};
+
+struct ArchivosDePrueba final : Archivos
+{
+    std::map<std::string, Fecha> creados; ///< by path; nothing else is there
+
+    std::optional<Fecha> creado(const std::string &ruta) override
+    {
+        const auto hallado = creados.find(ruta);
+        return hallado == creados.end() ? std::nullopt : std::optional(hallado->second);
     }
 };
 
@@ -156,9 +173,11 @@ struct AplicacionesDePrueba final : Aplicaciones
 struct AparienciaDePrueba final : Apariencia
 {
     Estado estado;
+    bool mezcla = false;
     std::vector<std::function<void()>> oyentes;
 
     Estado actual() const override { return estado; }
+    bool transparencia() const override { return mezcla; }
     void alCambiar(std::function<void()> accion) override { oyentes.push_back(std::move(accion)); }
     void fijar(Estado nuevo)
     {
@@ -277,6 +296,7 @@ struct PlataformaDePrueba : Plataforma
     PreferenciasEnMemoria m_preferencias;
     RelojManual m_reloj;
     VolumenDePrueba m_volumen;
+    ArchivosDePrueba m_archivos;
     PapeleraDePrueba m_papelera;
     Papelera *m_otraPapelera = nullptr; ///< takes the place of `m_papelera` where set
     HerramientasDePrueba m_herramientas;
@@ -302,6 +322,7 @@ struct PlataformaDePrueba : Plataforma
     Preferencias &preferencias() override { return m_preferencias; }
     Reloj &reloj() override { return m_reloj; }
     Volumen &volumen() override { return m_volumen; }
+    Archivos &archivos() override { return m_archivos; }
     Papelera &papelera() override { return m_otraPapelera ? *m_otraPapelera : m_papelera; }
     Herramientas &herramientas() override { return m_herramientas; }
     Aplicaciones &aplicaciones() override { return m_aplicaciones; }

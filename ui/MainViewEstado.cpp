@@ -104,6 +104,7 @@ void MainViewEstado::seleccionar(int fila)
 void MainViewEstado::analizarDeNuevo()
 {
     m_app.disco().medir();
+    m_app.sims().cargar();
     m_app.reglas().medir();
 }
 

@@ -3,6 +3,7 @@
 #include "core/qt/Formato.h"
 #include "core/qt/Texto.h"
 #include "ui/AsegurarReglas.h"
+#include "ui/AsegurarSimuladores.h"
 #include "ui/AspectoNivel.h"
 #include "ui/Ovanta.h"
 
@@ -18,6 +19,8 @@ ResumenViewEstado::ResumenViewEstado(QObject *parent) : QObject(parent), m_app(O
     connect(&m_app.reglas(), &RuleStore::reglasChanged, this, &ResumenViewEstado::actualizar);
     connect(&m_app.reglas(), &RuleStore::midiendoChanged, this, &ResumenViewEstado::actualizar);
     connect(&m_app.mem(), &MemoryMonitor::lecturaChanged, this, &ResumenViewEstado::actualizar);
+    connect(&m_app.sims(), &SimulatorStore::simuladoresChanged, this, &ResumenViewEstado::actualizar);
+    connect(&m_app.sims(), &SimulatorStore::estadoChanged, this, &ResumenViewEstado::actualizar);
     actualizar();
 }
 
@@ -93,6 +96,7 @@ QString ResumenViewEstado::textoAnalizar() const
 void ResumenViewEstado::alMostrar()
 {
     asegurarReglas(m_app.reglas());
+    asegurarSimuladores(m_app.sims());
 }
 
 void ResumenViewEstado::analizarTodo()
@@ -100,6 +104,7 @@ void ResumenViewEstado::analizarTodo()
     m_app.disco().medir();
     m_app.mem().medir();
     m_app.reglas().medir();
+    m_app.sims().cargar();
 }
 
 void ResumenViewEstado::verPapelera()

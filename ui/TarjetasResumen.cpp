@@ -112,6 +112,12 @@ EntradasResumen leerEntradas(OvantaApp &app)
     entradas.memoria = app.mem().estado();
     entradas.presion = app.mem().presion();
     entradas.swapUsado = app.mem().swapUsado();
+    const std::vector<Simulador> nuevos = app.sims().nuevos();
+    entradas.cargandoSimuladores = app.sims().cargando() || app.sims().midiendoTamanos();
+    entradas.simuladores = app.sims().simuladores().size();
+    entradas.simuladoresNuevos = nuevos.size();
+    entradas.bytesNuevos = SimulatorStore::sumaDeBytes(nuevos);
+    entradas.diasNuevo = app.sims().diasNuevo();
     return entradas;
 }
 

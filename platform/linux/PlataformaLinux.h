@@ -5,6 +5,7 @@
 #include "platform/linux/AnfitrionBandejaLinux.h"
 #include "platform/linux/AparienciaLinux.h"
 #include "platform/linux/AplicacionesLinux.h"
+#include "platform/linux/ArchivosLinux.h"
 #include "platform/linux/BateriaLinux.h"
 #include "platform/linux/ContadoresLinux.h"
 #include "platform/linux/DialogoCriticoLinux.h"
@@ -35,6 +36,7 @@ public:
     Preferencias &preferencias() override { return m_preferencias; }
     Reloj &reloj() override { return m_reloj; }
     Volumen &volumen() override { return m_volumen; }
+    Archivos &archivos() override { return m_archivos; }
     Papelera &papelera() override { return m_papelera; }
     Herramientas &herramientas() override { return m_herramientas; }
     Aplicaciones &aplicaciones() override { return m_aplicaciones; }
@@ -62,6 +64,7 @@ private:
     PreferenciasQt m_preferencias;
     RelojLinux m_reloj;
     VolumenLinux m_volumen;
+    ArchivosLinux m_archivos;
     PapeleraLinux m_papelera;
     HerramientasLinux m_herramientas;
     AplicacionesLinux m_aplicaciones;

@@ -3,6 +3,7 @@
 #include "platform/simulada/CachesSinteticas.h"
 #include "platform/simulada/FotosSinteticas.h"
 #include "platform/simulada/MueblesMac.h"
+#include "platform/simulada/SimuladoresSinteticos.h"
 
 #include <cerrno>
 #include <cstdlib>
@@ -31,6 +32,7 @@ CasaSintetica::~CasaSintetica()
 void CasaSintetica::amueblar(const std::vector<std::string> &rutasDeReglas, Fecha ahora) const
 {
     ponerMuebles(m_hogar, ahora);
+    ponerSimuladores(m_hogar, ahora);
     ponerFotos(m_hogar, ahora);
     llenarCaches(m_hogar, rutasDeReglas, ahora);
 }

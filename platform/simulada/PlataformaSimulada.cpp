@@ -3,6 +3,7 @@
 #include "core/Catalogo.h"
 #include "core/LeerArchivo.h"
 #include "core/Recursos.h"
+#include "platform/simulada/SimuladoresSinteticos.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -45,6 +46,7 @@ PlataformaSimulada::PlataformaSimulada(const Opciones &opciones)
 {
     m_herramientas.programar("osascript", [](const auto &) { return std::string{}; });
     m_apariencia.fijar(opciones.apariencia);
+    m_herramientas.programar("xcrun", responderXcrun);
     m_casa.amueblar(rutasDelCatalogo(m_lugares.catalogo), m_reloj.ahora());
 }
 

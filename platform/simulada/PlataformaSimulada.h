@@ -2,6 +2,7 @@
 
 #include "platform/Plataforma.h"
 #include "platform/simulada/AplicacionesSimuladas.h"
+#include "platform/simulada/ArchivosSimulados.h"
 #include "platform/simulada/CasaSintetica.h"
 #include "platform/simulada/EscritorioSimulado.h"
 #include "platform/simulada/HerramientasSimuladas.h"
@@ -49,6 +50,7 @@ public:
     PreferenciasRegistradas &preferencias() override { return m_preferencias; }
     RelojSimulado &reloj() override { return m_reloj; }
     VolumenSimulado &volumen() override { return m_volumen; }
+    ArchivosSimulados &archivos() override { return m_archivos; }
     PapeleraSimulada &papelera() override { return m_papelera; }
     HerramientasSimuladas &herramientas() override { return m_herramientas; }
     AplicacionesSimuladas &aplicaciones() override { return m_aplicaciones; }
@@ -76,6 +78,7 @@ private:
     PreferenciasRegistradas m_preferencias;
     RelojSimulado m_reloj;
     VolumenSimulado m_volumen;
+    ArchivosSimulados m_archivos;
     PapeleraSimulada m_papelera;
     HerramientasSimuladas m_herramientas;
     AplicacionesSimuladas m_aplicaciones;

@@ -172,6 +172,10 @@ class Icono:
     def pulsar(self):
         llamar(self.conexion, self.nombre, self.ruta, self.INTERFAZ, "Activate", GLib.Variant("(ii)", (0, 0)))
 
+    def pulsar_con_el_medio(self):
+        llamar(self.conexion, self.nombre, self.ruta, self.INTERFAZ, "SecondaryActivate",
+               GLib.Variant("(ii)", (0, 0)))
+
     def menu(self):
         """Text of every entry of the menu by its number, separators left out."""
         _, (_, _, hijos) = llamar(self.conexion, self.nombre, self.propiedades()["Menu"], self.MENU,

@@ -82,16 +82,17 @@ class LaBandeja(PruebaDeEscritorio):
             self.assertEqual(len(bytes_), ancho * alto * 4)
         textos = list(icono.menu().values())
         self.assertIn(" libres", textos[0])
-        self.assertEqual(textos[1:], ["Abrir Ovanta", "Actualizar ahora", "Salir de Ovanta"])
+        self.assertEqual(textos[1:], ["Mostrar panel", "Abrir Ovanta", "Actualizar ahora", "Salir de Ovanta"])
         self.salir_sin_quejas(programa, por_menu=True)
 
-    def test_pulsar_el_icono_vuelve_a_abrir_la_ventana(self):
+    def test_el_boton_del_medio_y_el_menu_vuelven_a_abrir_la_ventana(self):
         programa = self.iniciar()
         icono = programa.icono()
-        pedir_cierre(self.escritorio, esperar_abierta(self.escritorio))
-        esperar_ninguna(self.escritorio)
-        icono.pulsar()
-        programa.ventana()
+        for abrir in (icono.pulsar_con_el_medio, lambda: icono.elegir("Abrir Ovanta")):
+            pedir_cierre(self.escritorio, esperar_abierta(self.escritorio))
+            esperar_ninguna(self.escritorio)
+            abrir()
+            programa.ventana()
         self.salir_sin_quejas(programa)
 
     def test_un_anfitrion_que_llega_tarde_recibe_el_icono(self):

@@ -36,3 +36,13 @@ def pedir_cierre(escritorio, numero):
     ventana.send_event(mensaje)
     pantalla.sync()
     pantalla.close()
+
+
+def geometria(escritorio, numero):
+    """Where a window stands and how large it is: x, y, width, height."""
+    pantalla = Display(escritorio.display)
+    try:
+        caja = pantalla.create_resource_object("window", numero).get_geometry()
+        return caja.x, caja.y, caja.width, caja.height
+    finally:
+        pantalla.close()

@@ -67,7 +67,7 @@ OvantaApp &BancoInterfaz::app()
 {
     if (!m_app) {
         m_app = std::make_unique<OvantaApp>(plataforma);
-        Ovanta::usar(m_app.get(), m_aspecto.get());
+        Ovanta::usar(m_app.get(), m_aspecto.get(), nullptr);
     }
     return *m_app;
 }
