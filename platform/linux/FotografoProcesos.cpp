@@ -1,0 +1,43 @@
+#include "platform/linux/FotografoProcesos.h"
+
+namespace ovanta {
+
+FotografoProcesos::FotografoProcesos(Barrer barrer, LugaresEntradas lugares, EntornoProcesos entorno,
+                                     std::optional<std::string> pantalla)
+    : m_barrer(std::move(barrer)), m_entorno(entorno), m_clasificador(std::move(lugares), std::move(entorno)),
+      m_ventanas(std::move(pantalla))
+{
+}
+
+FotoRef FotografoProcesos::ahora()
+{
+    const std::scoped_lock cerrado(m_cerrojo);
+    return tomar();
+}
+
+FotoRef FotografoProcesos::reciente()
+{
+    constexpr std::chrono::seconds momento{2};
+    const std::scoped_lock cerrado(m_cerrojo);
+    if (m_ultima && std::chrono::steady_clock::now() - m_ultima->cuando < momento) return m_ultima;
+    return tomar();
+}
+
+FotoRef FotografoProcesos::tomar()
+{
+    auto foto = std::make_shared<FotoProcesos>();
+    foto->procesos = m_barrer();
+    foto->ventanas = m_ventanas.listar();
+    foto->pertenencias = m_clasificador.clasificar(foto->procesos, foto->ventanas, EntornoProcesos::ahora());
+    foto->cuando = std::chrono::steady_clock::now();
+    m_ultima = foto;
+    return foto;
+}
+
+EntradaRef FotografoProcesos::primeraEntrada(const std::vector<std::string> &ids)
+{
+    const std::scoped_lock cerrado(m_cerrojo);
+    return m_clasificador.entradaDe(ids);
+}
+
+} // namespace ovanta
