@@ -92,6 +92,12 @@ std::string caminoReal(std::string_view programa, const std::vector<std::string>
     return {};
 }
 
+bool estaInstalada(const EntradaEscritorio &entrada, const std::vector<std::string> &carpetas)
+{
+    return !entrada.orden.empty() && !caminoReal(entrada.orden.front(), carpetas).empty() &&
+           (entrada.probar.empty() || !caminoReal(entrada.probar, carpetas).empty());
+}
+
 /// The entry among several that an application without any more signs is meant by: one that shows itself,
 /// and of those the plainest order.
 bool vaAntes(const EntradaRef &una, const EntradaRef &otra)
@@ -201,12 +207,13 @@ void CatalogoEntradas::leerArchivoDe(const std::string &raiz, const std::string 
             return;
         }
         auto entrada = std::make_shared<EntradaCatalogada>(
-            EntradaCatalogada{id, ruta, std::move(*leida), deInicio, {}, {}, {}});
+            EntradaCatalogada{id, ruta, std::move(*leida), deInicio, {}, {}, {}, false});
         if (const auto programa = palabraDelPrograma(entrada->entrada.orden); !programa.empty()) {
             entrada->programa = ultimoComponente(programa);
             entrada->real = caminoReal(programa, m_lugares.programas);
             entrada->carpeta = carpetaDeInstalacion(entrada->real, m_lugares.hogar);
         }
+        entrada->instalada = estaInstalada(entrada->entrada, m_lugares.programas);
         m_porId.emplace(std::move(id), std::move(entrada));
     } catch (const ErrorDeLectura &) {
         // Gone, unreadable or too large: as if it were not there.

@@ -18,10 +18,11 @@ struct EntradaCatalogada
     std::string id; ///< desktop id without ".desktop"
     std::string ruta;
     EntradaEscritorio entrada;
-    bool deInicio = false; ///< known only as something that starts with the session
-    std::string programa;  ///< file name of what it starts; empty where that tells nothing
-    std::string real;      ///< where that program really lies; empty where it was not found
-    std::string carpeta;   ///< the folder which that program has to itself, or empty
+    bool deInicio = false;  ///< known only as something that starts with the session
+    std::string programa;   ///< file name of what it starts; empty where that tells nothing
+    std::string real;       ///< where that program really lies; empty where it was not found
+    std::string carpeta;    ///< the folder which that program has to itself, or empty
+    bool instalada = false; ///< what it starts, and what it says to look for, is there
 };
 
 using EntradaRef = std::shared_ptr<const EntradaCatalogada>;

@@ -147,7 +147,7 @@ EntradaRef ClasificadorApps::entradaDe(const std::vector<std::string> &ids)
 {
     if (m_catalogo.refrescar()) ++m_version;
     for (const std::string &id : ids)
-        if (auto entrada = m_catalogo.porId(id)) return entrada;
+        if (auto entrada = m_catalogo.porId(id); entrada && entrada->instalada) return entrada;
     return nullptr;
 }
 

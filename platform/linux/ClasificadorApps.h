@@ -65,7 +65,7 @@ public:
     /// How many processes the last call looked at anew.
     std::size_t miradas() const { return m_miradas; }
 
-    /// Of the desktop ids the first that has an entry; null where none has.
+    /// Of the desktop ids the first whose application is installed; null where none is.
     EntradaRef entradaDe(const std::vector<std::string> &ids);
 
 private:

@@ -42,7 +42,7 @@ public:
     const EntornoProcesos &entorno() const { return m_entorno; }
     VentanasX11 &ventanas() { return m_ventanas; }
 
-    /// Of the ids the first that has an entry; null where none has.
+    /// Of the desktop ids the first whose application is installed; null where none is.
     EntradaRef primeraEntrada(const std::vector<std::string> &ids);
 
 private:
