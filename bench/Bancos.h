@@ -8,5 +8,6 @@ int bancoEjecutar(int argc, char **argv);
 int bancoValidar(int argc, char **argv);
 int bancoPapelera(int argc, char **argv);
 int bancoMuestra(int argc, char **argv);
+int bancoProc(int argc, char **argv);
 
 } // namespace ovanta

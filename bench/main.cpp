@@ -13,10 +13,9 @@ struct Verbo
 };
 
 constexpr Verbo verbos[] = {
-    {"ejecutar", ovanta::bancoEjecutar},
-    {"validar", ovanta::bancoValidar},
-    {"papelera", ovanta::bancoPapelera},
-    {"muestra", ovanta::bancoMuestra},
+    {"ejecutar", ovanta::bancoEjecutar}, {"validar", ovanta::bancoValidar},
+    {"papelera", ovanta::bancoPapelera}, {"muestra", ovanta::bancoMuestra},
+    {"proc", ovanta::bancoProc},
 };
 
 int explicarUso()
