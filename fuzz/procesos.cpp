@@ -1,4 +1,3 @@
-#include "platform/linux/IdentidadProceso.h"
 #include "platform/linux/LineaDeOrdenes.h"
 #include "platform/linux/MaquinaVirtual.h"
 #include "platform/linux/OrigenProceso.h"
@@ -24,7 +23,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *datos, std::size_t cua
     if (const auto nombre = nombreDeMaquina(palabras); nombre && nombre->empty()) std::abort();
     if (guionDe(palabras).starts_with('-')) std::abort();
     if (const auto valor = variableDe(bytes, "A"); valor && valor->find('\0') != valor->npos) std::abort();
-    if (const auto senas = leerSenas(bytes); senas && bytes.find(')') == bytes.npos) std::abort();
     const std::string carpeta = carpetaDeInstalacion(bytes, "/home/ana");
     if (!bytes.starts_with(carpeta)) std::abort();
     return 0;

@@ -4,6 +4,7 @@
 #include "core/Rutas.h"
 #include "platform/linux/EntradasDeCarpeta.h"
 #include "platform/linux/ProgramasConocidos.h"
+#include "platform/linux/Renglones.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -29,9 +30,8 @@ std::vector<std::string> partir(std::string_view lista)
 {
     std::vector<std::string> partes;
     while (!lista.empty()) {
-        const std::size_t fin = std::min(lista.find(':'), lista.size());
-        if (lista.starts_with('/')) partes.emplace_back(lista.substr(0, fin));
-        lista.remove_prefix(std::min(fin + 1, lista.size()));
+        const std::string_view parte = cortar(lista, ':');
+        if (parte.starts_with('/')) partes.emplace_back(parte);
     }
     return partes;
 }

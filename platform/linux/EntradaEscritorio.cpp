@@ -1,6 +1,7 @@
 #include "platform/linux/EntradaEscritorio.h"
 
 #include "core/Utf8.h"
+#include "platform/linux/Renglones.h"
 
 #include <algorithm>
 #include <utility>
@@ -149,11 +150,8 @@ std::optional<EntradaEscritorio> leerEntrada(std::string_view bytes, const std::
 {
     if (bytes.size() > limiteEntrada) return std::nullopt;
     Lector lector{idiomas};
-    while (!bytes.empty()) {
-        const std::size_t fin = std::min(bytes.find('\n'), bytes.size());
-        lector.leerLinea(bytes.substr(0, fin));
-        bytes.remove_prefix(std::min(fin + 1, bytes.size()));
-    }
+    while (!bytes.empty())
+        lector.leerLinea(cortar(bytes, '\n'));
     return std::move(lector).resultado();
 }
 

@@ -1,5 +1,7 @@
 #include "platform/linux/FotografoProcesos.h"
 
+#include "platform/linux/BarridoProc.h"
+
 namespace ovanta {
 
 FotografoProcesos::FotografoProcesos(Barrer barrer, LugaresEntradas lugares, EntornoProcesos entorno,
@@ -7,6 +9,14 @@ FotografoProcesos::FotografoProcesos(Barrer barrer, LugaresEntradas lugares, Ent
     : m_barrer(std::move(barrer)), m_entorno(entorno), m_clasificador(std::move(lugares), std::move(entorno)),
       m_ventanas(std::move(pantalla))
 {
+}
+
+std::shared_ptr<FotografoProcesos> FotografoProcesos::deEsteEquipo()
+{
+    const auto barrido = std::make_shared<BarridoProc>();
+    return std::make_shared<FotografoProcesos>(
+        [barrido] { return barrido->barrer(); }, LugaresEntradas::delEntorno(),
+        EntornoProcesos::deEsteProceso(), VentanasX11::pantallaDelEntorno());
 }
 
 FotoRef FotografoProcesos::ahora()

@@ -34,6 +34,9 @@ public:
     FotografoProcesos(Barrer barrer, LugaresEntradas lugares, EntornoProcesos entorno,
                       std::optional<std::string> pantalla);
 
+    /// This machine, this user, this session.
+    static std::shared_ptr<FotografoProcesos> deEsteEquipo();
+
     /// How things stand now.
     FotoRef ahora();
     /// The last look where it is a moment old, else a new one: for those who only show.

@@ -62,10 +62,8 @@ std::set<std::int32_t> propioYAncestros(const EntornoProcesos &entorno)
 {
     std::set<std::int32_t> propios;
     std::int32_t pid = entorno.propio;
-    while (pid > 0 && propios.size() < ancestrosMaximos && propios.insert(pid).second) {
-        const auto senas = leerSenas(leerDeProceso(entorno.proc, pid, "stat"));
-        pid = senas ? senas->padre : 0;
-    }
+    while (pid > 0 && propios.size() < ancestrosMaximos && propios.insert(pid).second)
+        pid = padreDe(entorno.proc, pid);
     return propios;
 }
 

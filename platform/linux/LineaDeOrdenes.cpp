@@ -1,6 +1,6 @@
 #include "platform/linux/LineaDeOrdenes.h"
 
-#include <algorithm>
+#include "platform/linux/Renglones.h"
 
 namespace ovanta {
 
@@ -8,21 +8,13 @@ namespace {
 
 constexpr std::size_t palabrasMaximas = 1000;
 
-std::string_view siguiente(std::string_view &bytes)
-{
-    const std::size_t fin = std::min(bytes.find('\0'), bytes.size());
-    const std::string_view palabra = bytes.substr(0, fin);
-    bytes.remove_prefix(std::min(fin + 1, bytes.size()));
-    return palabra;
-}
-
 } // namespace
 
 std::vector<std::string> palabrasDeLinea(std::string_view cmdline)
 {
     std::vector<std::string> palabras;
     while (!cmdline.empty() && palabras.size() < palabrasMaximas)
-        palabras.emplace_back(siguiente(cmdline));
+        palabras.emplace_back(cortar(cmdline, '\0'));
     return palabras;
 }
 
@@ -38,7 +30,7 @@ std::string guionDe(const std::vector<std::string> &palabras)
 std::optional<std::string_view> variableDe(std::string_view environ, std::string_view nombre)
 {
     while (!environ.empty()) {
-        const std::string_view palabra = siguiente(environ);
+        const std::string_view palabra = cortar(environ, '\0');
         if (palabra.size() > nombre.size() && palabra[nombre.size()] == '=' && palabra.starts_with(nombre))
             return palabra.substr(nombre.size() + 1);
     }

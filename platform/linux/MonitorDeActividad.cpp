@@ -1,8 +1,9 @@
 #include "platform/linux/MonitorDeActividad.h"
 
+#include "platform/linux/Renglones.h"
+
 #include <QProcess>
 #include <QStringList>
-#include <algorithm>
 #include <utility>
 
 namespace ovanta {
@@ -34,11 +35,8 @@ constexpr MonitorDe monitores[] = {
 
 bool nombra(std::string_view lista, std::string_view escritorio)
 {
-    while (!lista.empty()) {
-        const std::size_t fin = std::min(lista.find(':'), lista.size());
-        if (lista.substr(0, fin) == escritorio) return true;
-        lista.remove_prefix(std::min(fin + 1, lista.size()));
-    }
+    while (!lista.empty())
+        if (cortar(lista, ':') == escritorio) return true;
     return false;
 }
 

@@ -1,6 +1,7 @@
 #include "platform/linux/OrigenProceso.h"
 
 #include "core/Rutas.h"
+#include "platform/linux/Renglones.h"
 
 #include <algorithm>
 #include <charconv>
@@ -216,9 +217,7 @@ OrigenProceso origenDe(std::string_view cgroup, std::string_view propio)
 {
     OrigenProceso origen;
     for (std::string_view resto = cgroup; !resto.empty();) {
-        const std::size_t fin = std::min(resto.find('\n'), resto.size());
-        const std::string_view linea = resto.substr(0, fin);
-        resto.remove_prefix(std::min(fin + 1, resto.size()));
+        const std::string_view linea = cortar(resto, '\n');
         const auto unificada = rutaDe(linea, "");
         const auto ruta = unificada ? unificada : rutaDe(linea, "name=systemd");
         if (!ruta) continue;

@@ -3,6 +3,7 @@
 #include "core/Descriptor.h"
 #include "core/LeerArchivo.h"
 #include "core/Rutas.h"
+#include "platform/linux/Renglones.h"
 
 #include <algorithm>
 #include <charconv>
@@ -41,12 +42,11 @@ bool soloHay(std::string_view lista, const std::vector<std::int32_t> &pids)
 {
     bool alguno = false;
     while (!lista.empty()) {
-        const std::size_t fin = std::min(lista.find('\n'), lista.size());
+        const std::string_view linea = cortar(lista, '\n');
         std::int32_t pid = 0;
-        std::from_chars(lista.data(), lista.data() + fin, pid);
+        std::from_chars(linea.data(), linea.data() + linea.size(), pid);
         if (std::ranges::find(pids, pid) == pids.end()) return false;
         alguno = true;
-        lista.remove_prefix(std::min(fin + 1, lista.size()));
     }
     return alguno;
 }

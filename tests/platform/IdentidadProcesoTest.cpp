@@ -9,11 +9,6 @@ using namespace ovanta;
 
 namespace {
 
-std::string linea(const std::string &nombre, char estado = 'S', const std::string &inicio = "777")
-{
-    return "12 (" + nombre + ") " + estado + " 5 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 0 " + inicio + " 4096 2\n";
-}
-
 /// A child that only waits.
 class Durmiente
 {
@@ -31,7 +26,7 @@ public:
         ::waitpid(m_pid, nullptr, 0);
     }
     std::int32_t pid() const { return m_pid; }
-    std::uint64_t inicio() const { return leerSenas(leerDeProceso("/proc", m_pid, "stat"))->inicio; }
+    std::uint64_t inicio() const { return inicioDe("/proc", m_pid).value_or(0); }
 
 private:
     pid_t m_pid;
@@ -39,23 +34,18 @@ private:
 
 } // namespace
 
-TEST(IdentidadProceso, theLineIsReadWhateverTheNameHolds)
+TEST(IdentidadProceso, aProcessKnowsItsParentAndItsStart)
 {
-    for (const char *nombre : {"sleep", "a b", ") S 1 2", "((", "", "x\ny"})
-        EXPECT_EQ(leerSenas(linea(nombre)), (SenasProceso{'S', 5, 777})) << nombre;
-}
-
-TEST(IdentidadProceso, malformedLinesTellNothing)
-{
-    for (const std::string &texto :
-         {std::string{}, std::string{"12 (x"}, std::string{"12 (x)"}, std::string{"12 (x) S 5 0 0"},
-          linea("x", 'S', "-1"), linea("x", 'S', "99999999999999999999999"), linea("x", 'S', "7a")})
-        EXPECT_FALSE(leerSenas(texto)) << texto;
+    const Durmiente hijo;
+    EXPECT_EQ(padreDe("/proc", hijo.pid()), ::getpid());
+    EXPECT_GE(hijo.inicio(), inicioDe("/proc", ::getpid()).value_or(0));
+    EXPECT_EQ(padreDe("/no/hay", hijo.pid()), 0);
+    EXPECT_EQ(inicioDe("/no/hay", hijo.pid()), std::nullopt);
+    EXPECT_FALSE(sigueVivo("/proc", 0, 0));
 }
 
 TEST(IdentidadProceso, aProcessThatOnlyWaitsToBeReapedIsGone)
 {
-    EXPECT_FALSE(leerSenas(linea("x", 'Z'))->vive());
     const Durmiente hijo;
     const auto inicio = hijo.inicio();
     EXPECT_TRUE(sigueVivo("/proc", hijo.pid(), inicio));

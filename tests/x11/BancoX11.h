@@ -1,10 +1,10 @@
 #pragma once
 
 #include "platform/linux/AplicacionesEnMarchaLinux.h"
+#include "platform/linux/BarridoProc.h"
 #include "platform/linux/IdentidadProceso.h"
 #include "tests/HogarTemporal.h"
 #include "tests/platform/ProcDePrueba.h"
-#include "tests/x11/Barrer.h"
 #include "tests/x11/Pantalla.h"
 
 #include <algorithm>
@@ -24,8 +24,9 @@ protected:
     std::unique_ptr<AplicacionesEnMarchaLinux> crear(EntornoProcesos entorno,
                                                      std::optional<std::string> donde)
     {
-        auto fotografo =
-            std::make_shared<FotografoProcesos>([] { return barrer(); }, entradas.lugares(), entorno, donde);
+        const auto barrido = std::make_shared<BarridoProc>();
+        auto fotografo = std::make_shared<FotografoProcesos>([barrido] { return barrido->barrer(); },
+                                                             entradas.lugares(), entorno, donde);
         return std::make_unique<AplicacionesEnMarchaLinux>(std::move(fotografo), "GNOME");
     }
     std::unique_ptr<AplicacionesEnMarchaLinux> crear()
@@ -94,12 +95,6 @@ protected:
         app.ruta = ruta;
         app.politica = AplicacionEnMarcha::Politica::regular;
         return app;
-    }
-
-    static std::uint64_t inicioDe(std::int32_t pid)
-    {
-        const auto senas = leerSenas(leerDeProceso("/proc", pid, "stat"));
-        return senas ? senas->inicio : 0;
     }
 
     HogarTemporal hogar;

@@ -9,6 +9,11 @@ constexpr int porSuVentana = 7;
 constexpr int porSigterm = 128 + SIGTERM;
 constexpr int porSigkill = 128 + SIGKILL;
 
+std::uint64_t comienzoDe(std::int32_t pid)
+{
+    return inicioDe("/proc", pid).value_or(0);
+}
+
 class CerrarAplicaciones : public BancoX11
 {
 };
@@ -136,10 +141,10 @@ TEST_F(CerrarAplicaciones, aForgedRecordReachesNeitherTheSessionNorThisProgram)
                                               ::getpid(), ::getppid(), 1};
     for (const std::int32_t pid : ajenos) {
         for (const std::string &ruta : {*app.ruta, std::string{}, std::string{"/usr/bin/Xvfb"}}) {
-            apps->cerrar(falsa(pid, inicioDe(pid), ruta));
-            apps->forzar(falsa(pid, inicioDe(pid), ruta));
+            apps->cerrar(falsa(pid, comienzoDe(pid), ruta));
+            apps->forzar(falsa(pid, comienzoDe(pid), ruta));
         }
-        apps->pedirFin({{pid, inicioDe(pid)}});
+        apps->pedirFin({{pid, comienzoDe(pid)}});
     }
     dejarPasar();
     EXPECT_TRUE(pantalla().servidor().vive());
@@ -158,7 +163,7 @@ TEST_F(CerrarAplicaciones, whatIsProhibitedStaysWhateverTheRecordSays)
     apps->forzar(app);
     for (const auto &vista : apps->listar())
         EXPECT_NE(vista.ruta, rutas["fondo-escritorio"]) << "who draws the desktop is no application";
-    apps->forzar(falsa(fondo->pid(), inicioDe(fondo->pid()), rutas["fondo-escritorio"]));
+    apps->forzar(falsa(fondo->pid(), comienzoDe(fondo->pid()), rutas["fondo-escritorio"]));
     EXPECT_TRUE(apps->procesosDe(rutas["fondo-escritorio"]).empty());
     dejarPasar();
     EXPECT_TRUE(fondo->vive());
