@@ -98,8 +98,8 @@ void AplicacionesEnMarchaLinux::cerrar(const AplicacionEnMarcha &app)
 {
     const auto hallada = buscar(app);
     if (!hallada) return;
-    // Where the server stopped answering meanwhile, a signal is the only polite way left.
-    if (m_fotografo->ventanas().pedirCierre(hallada->grupo.ventanas)) return;
+    // Who has windows may have something to save in them: it gets no signal, even if nobody hears this.
+    if (!hallada->grupo.ventanas.empty()) return m_fotografo->ventanas().pedirCierre(hallada->grupo.ventanas);
     for (const std::size_t i : raicesDe(hallada->grupo, *hallada->foto))
         senalar(hallada->foto->procesos[i], SIGTERM);
 }

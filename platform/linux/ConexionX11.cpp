@@ -31,23 +31,20 @@ struct Liberar
 template <typename T>
 using Respuesta = std::unique_ptr<T, Liberar>;
 
-/// The answer to a request, waited for until `plazo`; null on an error too. A broken connection is told
-/// by `rota`.
+/// The answer to a request, waited for until `plazo`; null on an error too. `agotada` is set when
+/// the time is up, and nothing is waited for after that.
 template <typename T>
-Respuesta<T> esperar(xcb_connection_t *conexion, unsigned int pedido, Plazo plazo, bool &rota)
+Respuesta<T> esperar(xcb_connection_t *conexion, unsigned int pedido, Plazo plazo, bool &agotada)
 {
     void *respuesta = nullptr;
     xcb_generic_error_t *error = nullptr;
-    while (!rota && xcb_poll_for_reply(conexion, pedido, &respuesta, &error) == 0) {
+    while (!agotada && xcb_poll_for_reply(conexion, pedido, &respuesta, &error) == 0) {
         const auto resto =
             std::chrono::duration_cast<std::chrono::milliseconds>(plazo - std::chrono::steady_clock::now());
         pollfd lectura{xcb_get_file_descriptor(conexion), POLLIN, 0};
-        if (xcb_connection_has_error(conexion) != 0 || resto.count() <= 0 ||
-            ::poll(&lectura, 1, static_cast<int>(resto.count())) == 0)
-            rota = true;
+        agotada = resto.count() <= 0 || ::poll(&lectura, 1, static_cast<int>(resto.count())) == 0;
     }
     std::free(error);
-    if (!respuesta && xcb_connection_has_error(conexion) != 0) rota = true;
     return Respuesta<T>{static_cast<T *>(respuesta)};
 }
 
@@ -76,8 +73,8 @@ constexpr std::array<std::string_view, ConexionX11::cuantosAtomos> nombresAtomos
 class Propiedades
 {
 public:
-    Propiedades(xcb_connection_t *conexion, Plazo plazo, bool &rota)
-        : m_conexion(conexion), m_plazo(plazo), m_rota(rota)
+    Propiedades(xcb_connection_t *conexion, Plazo plazo, bool &agotada)
+        : m_conexion(conexion), m_plazo(plazo), m_agotada(agotada)
     {
     }
 
@@ -88,7 +85,7 @@ public:
 
     std::string texto(unsigned int pedido)
     {
-        const auto respuesta = esperar<xcb_get_property_reply_t>(m_conexion, pedido, m_plazo, m_rota);
+        const auto respuesta = esperar<xcb_get_property_reply_t>(m_conexion, pedido, m_plazo, m_agotada);
         if (!respuesta || respuesta->format != 8) return {};
         return {static_cast<const char *>(xcb_get_property_value(respuesta.get())),
                 static_cast<std::size_t>(xcb_get_property_value_length(respuesta.get()))};
@@ -96,7 +93,7 @@ public:
 
     std::vector<std::uint32_t> numeros(unsigned int pedido)
     {
-        const auto respuesta = esperar<xcb_get_property_reply_t>(m_conexion, pedido, m_plazo, m_rota);
+        const auto respuesta = esperar<xcb_get_property_reply_t>(m_conexion, pedido, m_plazo, m_agotada);
         if (!respuesta || respuesta->format != 32) return {};
         std::vector<std::uint32_t> valores(
             static_cast<std::size_t>(xcb_get_property_value_length(respuesta.get())) / 4);
@@ -108,7 +105,7 @@ public:
 private:
     xcb_connection_t *m_conexion;
     Plazo m_plazo;
-    bool &m_rota;
+    bool &m_agotada;
 };
 
 /// The questions about one window that are under way.
@@ -165,8 +162,7 @@ std::vector<VentanaVista> conDuenos(std::vector<VentanaLeida> leidas)
 
 ConexionX11::ConexionX11(const std::string &pantalla) : m_conexion(xcb_connect(pantalla.c_str(), nullptr))
 {
-    m_rota = xcb_connection_has_error(m_conexion) != 0;
-    if (m_rota) return;
+    if (rota()) return;
     m_raiz = xcb_setup_roots_iterator(xcb_get_setup(m_conexion)).data->root;
     std::array<unsigned int, cuantosAtomos> pedidos{};
     for (std::size_t i = 0; i < pedidos.size(); ++i)
@@ -176,7 +172,7 @@ ConexionX11::ConexionX11(const std::string &pantalla) : m_conexion(xcb_connect(p
     xcb_flush(m_conexion);
     const Plazo plazo = std::chrono::steady_clock::now() + espera;
     for (std::size_t i = 0; i < pedidos.size(); ++i)
-        if (const auto respuesta = esperar<xcb_intern_atom_reply_t>(m_conexion, pedidos[i], plazo, m_rota))
+        if (const auto respuesta = esperar<xcb_intern_atom_reply_t>(m_conexion, pedidos[i], plazo, m_agotada))
             m_atomos[i] = respuesta->atom;
 }
 
@@ -187,7 +183,7 @@ ConexionX11::~ConexionX11()
 
 bool ConexionX11::rota() const
 {
-    return m_rota || xcb_connection_has_error(m_conexion) != 0;
+    return m_agotada || xcb_connection_has_error(m_conexion) != 0;
 }
 
 std::vector<VentanaVista> ConexionX11::ventanas()
@@ -196,7 +192,7 @@ std::vector<VentanaVista> ConexionX11::ventanas()
     // Nobody asked for events, yet the server sends some to everybody; kept, they would pile up.
     while (auto *suceso = xcb_poll_for_event(m_conexion))
         std::free(suceso);
-    Propiedades propiedades{m_conexion, std::chrono::steady_clock::now() + espera, m_rota};
+    Propiedades propiedades{m_conexion, std::chrono::steady_clock::now() + espera, m_agotada};
     const unsigned int pedida = propiedades.pedir(m_raiz, m_atomos[lista], largoLista);
     xcb_flush(m_conexion);
     std::vector<Preguntas> preguntas;

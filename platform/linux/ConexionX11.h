@@ -26,7 +26,10 @@ public:
     ConexionX11(const ConexionX11 &) = delete;
     ConexionX11 &operator=(const ConexionX11 &) = delete;
 
+    /// Whether there is nothing behind it any more.
     bool rota() const;
+    /// Whether the server is there but did not answer in time.
+    bool agotada() const { return m_agotada; }
 
     /// The windows that the window manager keeps, of programs on this machine; none without a manager.
     std::vector<VentanaVista> ventanas();
@@ -38,7 +41,7 @@ private:
     xcb_connection_t *m_conexion;
     std::uint32_t m_raiz = 0;
     Atomos m_atomos{};
-    bool m_rota = false;
+    bool m_agotada = false;
 };
 
 } // namespace ovanta

@@ -37,7 +37,12 @@ FotoRef FotografoProcesos::tomar()
 {
     auto foto = std::make_shared<FotoProcesos>();
     foto->procesos = m_barrer();
-    foto->ventanas = m_ventanas.listar();
+    // Nobody loses its windows by a server that is slow: without them it would be signalled.
+    auto ventanas = m_ventanas.listar();
+    if (ventanas)
+        foto->ventanas = std::move(*ventanas);
+    else if (m_ultima)
+        foto->ventanas = m_ultima->ventanas;
     foto->pertenencias = m_clasificador.clasificar(foto->procesos, foto->ventanas, EntornoProcesos::ahora());
     foto->cuando = std::chrono::steady_clock::now();
     m_ultima = foto;

@@ -1,6 +1,7 @@
 #include "platform/linux/HiloConLimite.h"
 
 #include <condition_variable>
+#include <cstdint>
 #include <mutex>
 #include <thread>
 #include <utility>
@@ -11,10 +12,14 @@ struct HiloConLimite::Estado
 {
     std::mutex cerrojo;
     std::condition_variable cambio;
-    std::function<void()> trabajo; ///< empty: none waits or runs
-    bool corriendo = false;
+    std::function<void()> trabajo; ///< what the thread is to take up
+    std::uint64_t empezados = 0;
+    std::uint64_t acabados = 0;
+    bool atascado = false; ///< whoever waited for the one that runs has given up
     bool fin = false;
     bool terminado = false;
+
+    bool libre() const { return empezados == acabados; }
 };
 
 namespace {
@@ -31,7 +36,8 @@ void servir(const std::shared_ptr<Estado> &estado)
         trabajo();
         trabajo = nullptr; // what it owns goes before anybody is told
         cerrado.lock();
-        estado->corriendo = false;
+        ++estado->acabados;
+        estado->atascado = false;
         estado->cambio.notify_all();
     }
     estado->terminado = true;
@@ -56,12 +62,20 @@ HiloConLimite::~HiloConLimite()
 
 bool HiloConLimite::correr(std::function<void()> trabajo, std::chrono::milliseconds limite)
 {
-    std::unique_lock cerrado(m_estado->cerrojo);
-    if (m_estado->corriendo) return false;
-    m_estado->trabajo = std::move(trabajo);
-    m_estado->corriendo = true;
-    m_estado->cambio.notify_all();
-    return m_estado->cambio.wait_for(cerrado, limite, [&] { return !m_estado->corriendo; });
+    const auto plazo = std::chrono::steady_clock::now() + limite;
+    Estado &estado = *m_estado;
+    std::unique_lock cerrado(estado.cerrojo);
+    estado.cambio.wait_until(cerrado, plazo, [&] { return estado.libre() || estado.atascado; });
+    if (!estado.libre()) return false;
+    estado.trabajo = std::move(trabajo);
+    const std::uint64_t este = ++estado.empezados;
+    estado.cambio.notify_all();
+    const bool hecho = estado.cambio.wait_until(cerrado, plazo, [&] { return estado.acabados >= este; });
+    if (!hecho) {
+        estado.atascado = true;
+        estado.cambio.notify_all();
+    }
+    return hecho;
 }
 
 } // namespace ovanta

@@ -6,8 +6,8 @@
 
 namespace ovanta {
 
-/// A thread for work that may hang for ever: the caller waits for a limited time only. While one piece of
-/// work hangs, the next ones are refused at once; when it ends the thread serves again. A thread that
+/// A thread for work that may hang for ever: the caller waits for a limited time only, its turn included.
+/// Once a piece of work outlasted its limit the next ones are refused at once, until it ends. A thread that
 /// still hangs at the end of this object is left behind and ends with its work.
 class HiloConLimite
 {

@@ -34,33 +34,39 @@ VentanasX11::VentanasX11(std::optional<std::string> pantalla) : m_estado(std::ma
 
 VentanasX11::~VentanasX11() = default;
 
-bool VentanasX11::conConexion(std::function<void(ConexionX11 &)> trabajo)
+VentanasX11::Suerte VentanasX11::conConexion(std::function<void(ConexionX11 &)> trabajo)
 {
-    if (!m_estado->pantalla) return false;
-    const auto hecho = std::make_shared<bool>(false);
+    if (!m_estado->pantalla) return Suerte::noHay;
+    const auto suerte = std::make_shared<Suerte>(Suerte::noContesta);
     const bool aTiempo = m_hilo.correr(
-        [estado = m_estado, hecho, trabajo = std::move(trabajo)] {
+        [estado = m_estado, suerte, trabajo = std::move(trabajo)] {
             if (!estado->conexion || estado->conexion->rota())
                 estado->conexion = std::make_unique<ConexionX11>(*estado->pantalla);
             trabajo(*estado->conexion);
-            *hecho = !estado->conexion->rota();
+            if (estado->conexion->agotada()) return;
+            *suerte = estado->conexion->rota() ? Suerte::noHay : Suerte::bien;
         },
         limite);
-    return aTiempo && *hecho;
+    return aTiempo ? *suerte : Suerte::noContesta;
 }
 
-std::vector<VentanaVista> VentanasX11::listar()
+std::optional<std::vector<VentanaVista>> VentanasX11::listar()
 {
     const auto vistas = std::make_shared<std::vector<VentanaVista>>();
-    const bool bien = conConexion([vistas](ConexionX11 &conexion) { *vistas = conexion.ventanas(); });
-    return bien ? std::move(*vistas) : std::vector<VentanaVista>{};
+    switch (conConexion([vistas](ConexionX11 &conexion) { *vistas = conexion.ventanas(); })) {
+    case Suerte::bien:
+        return std::move(*vistas);
+    case Suerte::noHay:
+        return std::vector<VentanaVista>{};
+    case Suerte::noContesta:
+        break;
+    }
+    return std::nullopt;
 }
 
-bool VentanasX11::pedirCierre(std::vector<std::uint32_t> ventanas)
+void VentanasX11::pedirCierre(std::vector<std::uint32_t> ventanas)
 {
-    if (ventanas.empty()) return false;
-    return conConexion(
-        [ventanas = std::move(ventanas)](ConexionX11 &conexion) { conexion.pedirCierre(ventanas); });
+    conConexion([ventanas = std::move(ventanas)](ConexionX11 &conexion) { conexion.pedirCierre(ventanas); });
 }
 
 } // namespace ovanta

@@ -13,9 +13,8 @@ namespace ovanta {
 
 class ConexionX11;
 
-/// The windows of an X11 session. Where there is no display, in a Wayland session, or while the server
-/// does not answer there are none, and no call waits longer than a few seconds; it connects anew when the
-/// server is back. Any thread.
+/// The windows of an X11 session. Where there is no display, no server, or in a Wayland session there are
+/// none. No call waits longer than a few seconds, and it connects anew when the server is back. Any thread.
 class VentanasX11
 {
 public:
@@ -26,15 +25,18 @@ public:
     explicit VentanasX11(std::optional<std::string> pantalla);
     ~VentanasX11();
 
-    std::vector<VentanaVista> listar();
+    /// Nothing where the server is there but does not answer: who has windows is not known then.
+    std::optional<std::vector<VentanaVista>> listar();
 
-    /// Asks the window manager to close them; whether there was somebody to ask.
-    bool pedirCierre(std::vector<std::uint32_t> ventanas);
+    /// Asks the window manager to close them, if it answers.
+    void pedirCierre(std::vector<std::uint32_t> ventanas);
 
 private:
     struct Estado;
 
-    bool conConexion(std::function<void(ConexionX11 &)> trabajo);
+    enum class Suerte { bien, noHay, noContesta };
+
+    Suerte conConexion(std::function<void(ConexionX11 &)> trabajo);
 
     std::shared_ptr<Estado> m_estado;
     HiloConLimite m_hilo;

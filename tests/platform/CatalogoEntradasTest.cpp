@@ -162,3 +162,23 @@ TEST(ProgramasConocidos, onlyAFolderOfItsOwnIsAnInstallationFolder)
     for (const auto &[programa, carpeta] : casos)
         EXPECT_EQ(carpetaDeInstalacion(programa, "/home/ana"), carpeta) << programa;
 }
+
+TEST(ProgramasConocidos, thePartsOfASessionAreToldFromItsApplications)
+{
+    for (const char *nombre :
+         {"gnome-shell", "Xorg", "Xwayland", "kwin_wayland", "plasmashell", "xfce4-panel", "sway",
+          "dbus-daemon", "gsd-power", "pipewire-pulse", "wireplumber", "gvfsd-trash", "at-spi2-registryd",
+          "xdg-desktop-portal-gtk", "polkit-kde-authentication-agent-1", "systemd", "openbox"})
+        EXPECT_TRUE(esParteDeSesion(nombre)) << nombre;
+    for (const char *nombre : {"plasma-systemmonitor", "gnome-calculator", "xfce4-terminal", "evolution",
+                               "firefox", "konsole", "gnome-terminal-server", "soffice.bin", ""})
+        EXPECT_FALSE(esParteDeSesion(nombre)) << nombre;
+}
+
+TEST(ProgramasConocidos, interpretersAreKnownInEveryVersion)
+{
+    for (const char *nombre : {"python3.11", "python", "perl5.36", "gjs-console", "bash", "node"})
+        EXPECT_TRUE(esInterprete(nombre)) << nombre;
+    for (const char *nombre : {"pythonista", "7z", "", "firefox"})
+        EXPECT_FALSE(esInterprete(nombre)) << nombre;
+}

@@ -1,5 +1,6 @@
 #include "platform/linux/HiloConLimite.h"
 
+#include <atomic>
 #include <future>
 #include <gtest/gtest.h>
 #include <memory>
@@ -21,6 +22,21 @@ TEST(HiloConLimite, workThatEndsInTimeIsDone)
     for (int i = 0; i < 3; ++i)
         EXPECT_TRUE(hilo.correr([hechas] { ++*hechas; }, mucho));
     EXPECT_EQ(*hechas, 3);
+}
+
+TEST(HiloConLimite, everybodyGetsATurn)
+{
+    HiloConLimite hilo;
+    const auto hechas = std::make_shared<std::atomic<int>>(0);
+    std::vector<std::thread> otros;
+    for (int i = 0; i < 4; ++i)
+        otros.emplace_back([&] {
+            for (int j = 0; j < 50; ++j)
+                EXPECT_TRUE(hilo.correr([hechas] { ++*hechas; }, mucho));
+        });
+    for (std::thread &otro : otros)
+        otro.join();
+    EXPECT_EQ(*hechas, 200);
 }
 
 TEST(HiloConLimite, whileOneHangsTheOthersAreRefusedAndThenServedAgain)

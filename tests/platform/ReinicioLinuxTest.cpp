@@ -57,6 +57,16 @@ TEST_F(ReinicioLinuxTest, gnomeIsAskedAndTheSystemIsNot)
     EXPECT_TRUE(login->llamadas(QStringLiteral("Reboot")).isEmpty());
 }
 
+TEST_F(ReinicioLinuxTest, mateShowsTheDialogueThatItHas)
+{
+    auto escritorio = servicio(sesion, "org.gnome.SessionManager", "/org/gnome/SessionManager",
+                               "org.gnome.SessionManager", "Shutdown", "");
+    auto login = login1();
+    pedir();
+    EXPECT_EQ(escritorio->llamadas(QStringLiteral("Shutdown")), Llamadas{QVariantList{}});
+    EXPECT_TRUE(login->llamadas(QStringLiteral("Reboot")).isEmpty());
+}
+
 TEST_F(ReinicioLinuxTest, kdeShowsItsQuestion)
 {
     auto escritorio =

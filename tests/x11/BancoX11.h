@@ -71,7 +71,7 @@ protected:
     {
         std::vector<VentanaVista> suyas;
         EXPECT_TRUE(esperarA([&] {
-            suyas = ventanas.listar();
+            suyas = ventanas.listar().value_or(std::vector<VentanaVista>{});
             std::erase_if(suyas, [pid](const VentanaVista &ventana) { return ventana.pid != pid; });
             return suyas.size() == cuantas;
         }));

@@ -114,6 +114,23 @@ TEST_F(CerrarAplicaciones, withoutAWindowItGetsTheSignal)
     EXPECT_EQ(programa->esperarFin(), porSigterm);
 }
 
+TEST_F(CerrarAplicaciones, whileTheServerHangsNobodyWithAWindowIsSignalled)
+{
+    auto programa = abrirConVentana("cierra", "con-trabajo");
+    auto apps = crear();
+    const auto app = esperarApp(*apps, "con-trabajo");
+    ASSERT_EQ(::kill(pantalla().servidor().pid(), SIGSTOP), 0);
+    apps->cerrar(app);
+    dejarPasar();
+    EXPECT_TRUE(programa->vive());
+    ASSERT_EQ(::kill(pantalla().servidor().pid(), SIGCONT), 0);
+    EXPECT_TRUE(esperarA([&] {
+        apps->cerrar(app);
+        return !programa->vive();
+    }));
+    EXPECT_EQ(programa->esperarFin(), porSuVentana);
+}
+
 TEST_F(CerrarAplicaciones, aRecordWithAnotherStartTimeTouchesNothing)
 {
     auto programa = abrirConVentana("cierra", "otra");

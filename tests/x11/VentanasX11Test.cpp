@@ -25,10 +25,10 @@ TEST_F(VentanasX11Test, aWindowIsSeenWithItsProcessAndClass)
 
 TEST_F(VentanasX11Test, whereNothingAnswersThereAreNoWindows)
 {
-    EXPECT_TRUE(VentanasX11{std::nullopt}.listar().empty());
-    EXPECT_TRUE(VentanasX11{":4999"}.listar().empty());
-    EXPECT_TRUE(VentanasX11{"no es una pantalla"}.listar().empty());
-    EXPECT_FALSE(VentanasX11{":4999"}.pedirCierre({1}));
+    const std::vector<VentanaVista> ninguna;
+    EXPECT_EQ(VentanasX11{std::nullopt}.listar(), ninguna);
+    EXPECT_EQ(VentanasX11{":4999"}.listar(), ninguna);
+    EXPECT_EQ(VentanasX11{"no es una pantalla"}.listar(), ninguna);
 }
 
 TEST_F(VentanasX11Test, aServerThatHangsBlocksNobodyAndIsUsedAgainAfterwards)
@@ -37,8 +37,8 @@ TEST_F(VentanasX11Test, aServerThatHangsBlocksNobodyAndIsUsedAgainAfterwards)
     VentanasX11 ventanas{pantalla().nombre()};
     esperarVentanas(ventanas, programa->pid());
     ASSERT_EQ(::kill(pantalla().servidor().pid(), SIGSTOP), 0);
-    EXPECT_TRUE(ventanas.listar().empty());
-    EXPECT_FALSE(ventanas.pedirCierre({1})) << "the connection is not to be had either";
+    EXPECT_EQ(ventanas.listar(), std::nullopt);
+    EXPECT_EQ(ventanas.listar(), std::nullopt) << "a new connection is not to be had either";
     ASSERT_EQ(::kill(pantalla().servidor().pid(), SIGCONT), 0);
     esperarVentanas(ventanas, programa->pid());
 }
@@ -51,7 +51,7 @@ TEST_F(VentanasX11Test, whenTheServerComesBackSoDoTheWindows)
         esperarVentanas(ventanas, programa->pid());
     }
     pantalla().apagar();
-    EXPECT_TRUE(ventanas.listar().empty());
+    EXPECT_EQ(ventanas.listar(), std::vector<VentanaVista>{});
     pantalla().reencender();
     auto programa = abrir("cierra", "despues");
     esperarVentanas(ventanas, programa->pid());
