@@ -4,6 +4,7 @@
 #include "platform/Plataforma.h"
 #include "platform/linux/AnfitrionBandejaLinux.h"
 #include "platform/linux/AparienciaLinux.h"
+#include "platform/linux/AplicacionesEnMarchaLinux.h"
 #include "platform/linux/AplicacionesLinux.h"
 #include "platform/linux/ArchivosLinux.h"
 #include "platform/linux/BateriaLinux.h"
@@ -14,10 +15,12 @@
 #include "platform/linux/InicioAutomaticoLinux.h"
 #include "platform/linux/InstanciaUnicaLinux.h"
 #include "platform/linux/LugaresLinux.h"
-#include "platform/linux/MemoriaSinLeer.h"
+#include "platform/linux/MemoriaLinux.h"
 #include "platform/linux/NotificacionesLinux.h"
 #include "platform/linux/PapeleraLinux.h"
 #include "platform/linux/PoliticaActivacionLinux.h"
+#include "platform/linux/ProcesosLinux.h"
+#include "platform/linux/ReinicioLinux.h"
 #include "platform/linux/RelojLinux.h"
 #include "platform/linux/SuspensionLinux.h"
 #include "platform/linux/TermicoLinux.h"
@@ -80,10 +83,11 @@ private:
     ContadoresLinux m_contadores;
     TermicoLinux m_termico;
     BateriaLinux m_bateria{QDBusConnection::systemBus()};
-    MemoriaSinLeer m_memoriaSistema;
-    ProcesosSinLeer m_procesos;
-    AplicacionesSinLeer m_aplicacionesEnMarcha;
-    ReinicioImposible m_reinicio;
+    MemoriaLinux m_memoriaSistema;
+    std::shared_ptr<FotografoProcesos> m_fotografo = FotografoProcesos::deEsteEquipo();
+    ProcesosLinux m_procesos{m_fotografo};
+    AplicacionesEnMarchaLinux m_aplicacionesEnMarcha;
+    ReinicioLinux m_reinicio = ReinicioLinux::delEntorno();
 };
 
 } // namespace ovanta
