@@ -60,10 +60,10 @@ Superficie {
                     text: raiz.estado.usado
                     Layout.fillWidth: true
                 }
-                Nota { text: raiz.estado.umbrales }
+                Nota { text: raiz.estado.ultimaLectura }
             }
             Nota {
-                text: raiz.estado.ultimaLectura
+                text: raiz.estado.umbrales
                 Layout.fillWidth: true
             }
         }

@@ -31,6 +31,7 @@ FocusScope {
         MenuAcciones {
             estado: estado
             Layout.fillWidth: true
+            Layout.topMargin: 2
         }
     }
 }

@@ -58,7 +58,6 @@ void PanelQml::abrir(QQmlEngine &motor, const QRect &icono)
     connect(m_ventana.get(), SIGNAL(altoDeseadoChanged()), this, SLOT(acomodar()));
     acomodar();
     m_ventana->show();
-    m_ventana->raise();
     m_ventana->requestActivate();
 }
 

@@ -22,7 +22,7 @@ Window {
         radius: ventana.radio
         color: Tema.colores.fondo
         border.width: 1
-        border.color: Tema.colores.borde
+        border.color: Tema.colores.bordeControl
         Sombra {
             visible: ventana.transparente
             radio: ventana.radio

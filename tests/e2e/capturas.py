@@ -3,9 +3,8 @@
 
     capturas.py PROGRAM LABEL FOLDER [--hogar HOME]
 
-The pictures lie in FOLDER/LABEL/<claro|oscuro>/<section>.png, the
-panel over the last screen in panel.png. Without --hogar the program gets an
-empty home of its own.
+The pictures lie in FOLDER/LABEL/<claro|oscuro>/<section>.png, the panel over the last screen in
+panel.png. Without --hogar the program gets an empty home of its own.
 """
 
 import argparse

@@ -1,12 +1,13 @@
 """The panel of the tray: a click opens it, it says how things stand, and leads on from there."""
 
 import unittest
+from contextlib import nullcontext
 
 from accesible import BOTON, FILA
 from esperar import esperar
 from prueba import PruebaDeEscritorio
 from teclado import enfocada, quitar_foco, teclear
-from ventanas import abiertas, esperar_abierta, esperar_ninguna, geometria, pedir_cierre
+from ventanas import abiertas, compositor, esperar_abierta, esperar_ninguna, geometria, pedir_cierre
 
 TITULO = "Panel de Ovanta"
 BOTONES = ["Revisar y borrar simuladores…", "Abrir Ovanta", "Actualizar ahora", "Salir de Ovanta"]
@@ -85,6 +86,19 @@ class ElPanel(PruebaDeEscritorio):
         ancho_total, alto_total = map(int, self.escritorio.pantalla.split("x"))
         self.assertTrue(0 <= x and x + ancho <= ancho_total, (x, ancho))
         self.assertTrue(0 <= y and y + alto <= alto_total, (y, alto))
+        self.salir_sin_quejas(programa)
+
+    def test_donde_las_ventanas_se_mezclan_trae_su_sombra(self):
+        programa, icono = self.en_reposo()
+        anchos = []
+        for contexto in (nullcontext(), compositor(self.escritorio)):
+            with contexto:
+                self.abrir(programa, icono)
+                (numero,) = abiertas(self.escritorio, TITULO)
+                anchos.append(geometria(self.escritorio, numero)[2])
+                teclear(self.escritorio, "Escape")
+                self.esperar_cerrado()
+        self.assertGreater(anchos[1], anchos[0])
         self.salir_sin_quejas(programa)
 
     def test_en_el_mac_simulado_cuenta_los_simuladores_y_lleva_a_su_seccion(self):

@@ -1,5 +1,7 @@
 """The window as the X server knows it, and what a window manager would tell it."""
 
+from contextlib import contextmanager
+
 from Xlib import X
 from Xlib.display import Display
 from Xlib.protocol import event
@@ -36,6 +38,19 @@ def pedir_cierre(escritorio, numero):
     ventana.send_event(mensaje)
     pantalla.sync()
     pantalla.close()
+
+
+@contextmanager
+def compositor(escritorio):
+    """A compositing manager is there, as far as programs can tell."""
+    pantalla = Display(escritorio.display)
+    try:
+        ventana = pantalla.screen().root.create_window(0, 0, 1, 1, 0, X.CopyFromParent)
+        ventana.set_selection_owner(pantalla.intern_atom("_NET_WM_CM_S0"), X.CurrentTime)
+        pantalla.sync()
+        yield
+    finally:
+        pantalla.close()
 
 
 def geometria(escritorio, numero):

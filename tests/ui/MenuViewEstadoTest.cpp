@@ -1,4 +1,5 @@
 #include "ui/MenuViewEstado.h"
+#include "core/qt/Formato.h"
 #include "tests/ui/BancoPanel.h"
 
 #include <QSignalSpy>
@@ -93,7 +94,7 @@ TEST_F(MenuViewEstadoTest, theFiguresFollowTheStores)
     EXPECT_EQ(texto(estado().cpu()), "62 %");
     EXPECT_EQ(estado().tinteCPU(), Tinte::Naranja);
     EXPECT_EQ(estado().historialCPU().size(), 30);
-    EXPECT_EQ(texto(estado().bajada()), "↓ 1,5 MB/s");
+    EXPECT_EQ(texto(estado().bajada()), "↓ 1,7 MB/s");
     EXPECT_EQ(texto(estado().subida()), "↑ 18 KB/s");
     EXPECT_EQ(texto(estado().bateria()), "64 %");
     plataforma.m_termico.actual = EstadoTermico::serious;

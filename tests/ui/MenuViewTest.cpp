@@ -2,6 +2,7 @@
 
 #include <QPointer>
 #include <QQmlEngine>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -45,7 +46,7 @@ TEST_F(MenuView, showsEveryBlockAndTheFourButtons)
     reposar();
     for (const char *texto :
          {"86,02 GB libres", "Queda poco espacio", "Usado 413,7 GB", "Avisa a 100 GB · crítico 50 GB",
-          "En vivo", "Procesador", "23 %", "Memoria", "Presión normal", "Red", "↓ 1,5 MB/s", "↑ 18 KB/s",
+          "En vivo", "Procesador", "23 %", "Memoria", "Presión normal", "Red", "↓ 1,7 MB/s", "↑ 18 KB/s",
           "Normal", "64 % · cargando", "Salud de la batería: 71 % · 300 ciclos · conviene revisarla",
           "Simuladores", "2 en total · 2,05 GB", "1 nuevos ocupan 1,02 GB"})
         EXPECT_TRUE(seVe(QString::fromUtf8(texto))) << texto;
