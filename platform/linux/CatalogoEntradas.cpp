@@ -246,7 +246,11 @@ EntradaRef CatalogoEntradas::porRuta(std::string_view ruta) const
 
 EntradaRef CatalogoEntradas::porClaseVentana(std::string_view clase) const
 {
-    return clase.empty() ? nullptr : mejorDe(m_porClase, enMinusculas(clase));
+    if (clase.empty()) return nullptr;
+    const std::string texto = enMinusculas(clase);
+    if (auto entrada = mejorDe(m_porClase, texto)) return entrada;
+    // Toolkits name windows after the program where nobody says otherwise.
+    return mejorDe(m_porPrograma, texto);
 }
 
 EntradaRef CatalogoEntradas::porPrograma(std::string_view exe, std::string_view nombre) const

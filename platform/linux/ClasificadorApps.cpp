@@ -17,11 +17,6 @@ namespace {
 
 using Clase = Pertenencia::Clase;
 
-const std::string &exeDe(const ProcesoVisto &proceso)
-{
-    return proceso.exe ? *proceso.exe : proceso.comm;
-}
-
 bool mismoPrograma(const std::shared_ptr<const std::string> &uno,
                    const std::shared_ptr<const std::string> &otro)
 {
@@ -76,6 +71,11 @@ std::vector<std::size_t> porEdad(const std::vector<ProcesoVisto> &procesos)
 }
 
 } // namespace
+
+const std::string &programaDe(const ProcesoVisto &proceso)
+{
+    return proceso.exe ? *proceso.exe : proceso.comm;
+}
 
 EntornoProcesos EntornoProcesos::deEsteProceso()
 {
@@ -161,7 +161,7 @@ bool ClasificadorApps::vale(const Decidida &decidida, const ProcesoVisto &proces
 PertenenciaRef ClasificadorApps::decidir(const ProcesoVisto &proceso, const ProcesoVisto *padre,
                                          PertenenciaRef delPadre, const Ventanas &ventanas) const
 {
-    const std::string_view programa = ultimoComponente(exeDe(proceso));
+    const std::string_view programa = ultimoComponente(programaDe(proceso));
     OrigenProceso origen = origenDe(leerDeProceso(m_entorno.proc, proceso.pid, "cgroup"), m_contenedorPropio);
     if (origen.clase == OrigenProceso::Clase::contenedor) return deContenedor(origen);
     if (origen.clase == OrigenProceso::Clase::maquinaVirtual) return deMaquina(origen.id);
@@ -235,7 +235,7 @@ EntradaRef ClasificadorApps::porVentanas(const Caso &caso) const
 EntradaRef ClasificadorApps::porPrograma(const Caso &caso) const
 {
     if (!caso.guion.empty()) return m_catalogo.porPrograma(caso.guion, ultimoComponente(caso.guion));
-    return m_catalogo.porPrograma(exeDe(caso.proceso), caso.programa);
+    return m_catalogo.porPrograma(programaDe(caso.proceso), caso.programa);
 }
 
 PertenenciaRef ClasificadorApps::porSusSenas(const Caso &caso) const
@@ -243,7 +243,7 @@ PertenenciaRef ClasificadorApps::porSusSenas(const Caso &caso) const
     if (caso.ventanas.empty()) return nullptr;
     const bool generico = esInterprete(caso.programa) || esLanzador(caso.programa);
     const std::string &titulo = !caso.guion.empty() ? caso.guion
-                                : !generico         ? exeDe(caso.proceso)
+                                : !generico         ? programaDe(caso.proceso)
                                                     : caso.ventanas.front()->clase;
     if (titulo.empty()) return nullptr;
     Pertenencia p;
@@ -258,8 +258,8 @@ bool ClasificadorApps::ayudaAlPadre(const Caso &caso) const
     if (!caso.delPadre || caso.delPadre->clase != Clase::aplicacion) return false;
     // Where the parent has a unit of its own, its helpers stayed in it.
     if (!caso.delPadre->origen.grupo.empty()) return false;
-    const std::string &exe = exeDe(caso.proceso);
-    const std::string &exePadre = exeDe(*caso.padre);
+    const std::string &exe = programaDe(caso.proceso);
+    const std::string &exePadre = programaDe(*caso.padre);
     const std::string_view programaPadre = ultimoComponente(exePadre);
     // What the script of an application starts is the application; so is what its sandbox holds.
     if (esConsola(programaPadre) || programaPadre == "bwrap") return true;

@@ -14,6 +14,9 @@
 
 namespace ovanta {
 
+/// The path of its program, or the best there is instead.
+const std::string &programaDe(const ProcesoVisto &proceso);
+
 /// What a process belongs to.
 struct Pertenencia
 {

@@ -22,7 +22,7 @@ std::string nombreDeContenedor(const GrupoApp &grupo, const FotoProcesos &foto)
 {
     std::string_view programa;
     for (const std::size_t i : grupo.miembros) {
-        const std::string_view este = ultimoComponente(*foto.procesos[i].exe);
+        const std::string_view este = ultimoComponente(programaDe(foto.procesos[i]));
         if (programa.empty()) programa = este;
         if (esSostenDeContenedor(este) || esConsola(este)) continue;
         programa = este;

@@ -153,11 +153,21 @@ bool esDeSesion(std::string_view parte)
            parte == "init.scope";
 }
 
-std::optional<OrigenProceso> deUnidadPropia(std::string_view parte)
+/// A service in a slice of the application's: "app-<id>.slice/<any>.service". What lies there in scopes
+/// was only started by it.
+std::optional<OrigenProceso> deServicioEnRama(std::string_view parte, std::string_view madre)
+{
+    const auto nucleo = entre(madre, "app-", ".slice");
+    if (!nucleo || !parte.ends_with(".service")) return std::nullopt;
+    return aplicacion(tras(*nucleo, '-'));
+}
+
+std::optional<OrigenProceso> deUnidadPropia(std::string_view parte, std::string_view madre)
 {
     if (auto origen = deAplicacion(parte)) return origen;
     if (auto origen = deSnap(parte)) return origen;
-    return deBus(parte);
+    if (auto origen = deBus(parte)) return origen;
+    return deServicioEnRama(parte, madre);
 }
 
 /// The outermost part that tells something; a container that a service keeps is still one.
@@ -173,7 +183,7 @@ OrigenProceso delGrupo(std::string_view grupo, std::string_view propio)
         if (parte.empty()) return deServicio;
         auto origen = deContenedor(parte, madre);
         if (!origen) origen = deMaquina(parte);
-        if (!origen && deServicio.clase == Clase::ninguna) origen = deUnidadPropia(parte);
+        if (!origen && deServicio.clase == Clase::ninguna) origen = deUnidadPropia(parte, madre);
         if (origen && origen->clase != Clase::ninguna) {
             origen->grupo = grupo.substr(0, static_cast<std::size_t>(parte.end() - grupo.begin()));
             return *origen;

@@ -11,7 +11,7 @@ namespace {
 
 std::string nombreDe(const ProcesoVisto &proceso)
 {
-    std::string nombre{ultimoComponente(proceso.exe ? *proceso.exe : proceso.comm)};
+    std::string nombre{ultimoComponente(programaDe(proceso))};
     return nombre.empty() || nombre == "/" ? "pid " + std::to_string(proceso.pid) : nombre;
 }
 

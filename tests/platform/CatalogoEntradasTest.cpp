@@ -43,6 +43,12 @@ TEST_F(CatalogoEntradasTest, anEntryIsFoundByIdFileWindowAndProgram)
     EXPECT_EQ(idDe(c.porPrograma("/usr/bin/otro", "otro")), "nada");
 }
 
+TEST_F(CatalogoEntradasTest, aWindowNamedAfterItsProgramIsFoundToo)
+{
+    entradas.poner("org.x.Terminal", "Terminal", "x-terminal --nueva");
+    EXPECT_EQ(idDe(catalogo().porClaseVentana("X-terminal")), "org.x.Terminal");
+}
+
 TEST_F(CatalogoEntradasTest, aSubfolderIsPartOfTheId)
 {
     entradas.poner("kde/org.kde.x", "X", "x");
