@@ -100,8 +100,15 @@ TEST_F(MemoryMonitorCierre, aPidThatWentToAnotherProcessIsLeftAlone)
     empezar();
     enMarcha().abiertas[0].inicio += 1;
     EXPECT_EQ(*cerrar({10}).resultado, ResultadoCierre{});
-    EXPECT_THAT(*forzar({10}).resultado, IsEmpty());
     EXPECT_THAT(enMarcha().pedidas, IsEmpty());
+}
+
+TEST_F(MemoryMonitorCierre, aPidThatWentToAnotherProcessIsNotForcedEither)
+{
+    abrir(10, "Uno");
+    empezar();
+    enMarcha().abiertas[0].inicio += 1;
+    EXPECT_THAT(*forzar({10}).resultado, IsEmpty());
     EXPECT_THAT(enMarcha().forzadas, IsEmpty());
 }
 
