@@ -80,6 +80,7 @@ public:
 
     /// Reads everything again, in the background. While a reading is under way only `total` is read.
     Q_INVOKABLE void medir();
+    bool leyendo() const { return m_leyendo; }
 
     /// Asks the applications that were published under these pids to quit and waits for them, 8 seconds at
     /// most. A pid that has gone to another process since it was published is left alone.

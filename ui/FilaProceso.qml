@@ -62,7 +62,7 @@ Item {
         Texto {
             text: raiz.nombre
             font.weight: Font.Medium
-            Layout.maximumWidth: implicitWidth
+            Layout.maximumWidth: Math.ceil(implicitWidth) + 1
             Layout.fillWidth: true
         }
         Nota {

@@ -21,17 +21,17 @@ Item {
                 estado: estado
                 Layout.fillWidth: true
             }
-            RecomendacionesMemoria {
-                estado: estado
-                visible: estado.hayRecomendaciones
-                Layout.fillWidth: true
-            }
             RepartoMemoria {
                 estado: estado
                 Layout.fillWidth: true
             }
             SwapMemoria {
                 estado: estado
+                Layout.fillWidth: true
+            }
+            RecomendacionesMemoria {
+                estado: estado
+                visible: estado.hayRecomendaciones
                 Layout.fillWidth: true
             }
             TablaMemoria {

@@ -41,6 +41,7 @@ Superficie {
             texto: raiz.estado.actividadSwap
             color: Tema.colores.tinta(raiz.estado.tinteActividad)
             letra: Tema.letraCuerpo - 1
+            Layout.fillWidth: true
         }
         Nota {
             text: "El swap vive en el SSD y sigue ocupando disco aunque la memoria se libere: solo se vacía del todo al reiniciar."

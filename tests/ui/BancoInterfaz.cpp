@@ -141,12 +141,17 @@ void BancoInterfaz::ponerMemoria(MemoriaSistema::Nivel nivel)
     MemoriaSimulada memoria{reloj};
     SesionSimulada sesion{reloj, registro};
     memoria.apretar(nivel);
-    reloj.avanzar(std::chrono::minutes{3});
-    plataforma.m_memoriaSistema.total = memoria.fisica();
-    plataforma.m_memoriaSistema.actual = memoria.leer();
-    plataforma.m_procesos.cuantosNucleos = sesion.nucleos();
-    plataforma.m_procesos.muestras = sesion.muestrear();
-    plataforma.m_enMarcha.abiertas = sesion.listar();
+    for (int lectura = 0; lectura < 2; ++lectura) {
+        plataforma.m_memoriaSistema.total = memoria.fisica();
+        plataforma.m_memoriaSistema.actual = memoria.leer();
+        plataforma.m_procesos.cuantosNucleos = sesion.nucleos();
+        plataforma.m_procesos.muestras = sesion.muestrear();
+        plataforma.m_enMarcha.abiertas = sesion.listar();
+        app();
+        leerMemoria();
+        reloj.avanzar(std::chrono::seconds{10});
+        plataforma.m_reloj.fijar(plataforma.m_reloj.ahora() + std::chrono::seconds{10});
+    }
 }
 
 void BancoInterfaz::leerMemoria()

@@ -44,7 +44,7 @@ protected:
     void poner(const std::vector<ReglaDePrueba> &reglas);
     /// Forty rules of all categories and risks as a real machine has them.
     void ponerCatalogoRealista();
-    /// The memory and the applications of a busy Mac, so short of memory; before the first `app`.
+    /// Reads twice the memory and the applications of a busy Mac, so short of memory.
     void ponerMemoria(MemoriaSistema::Nivel nivel = MemoriaSistema::Nivel::normal);
     /// So many entries in the history file; before the first `app`.
     void ponerHistorial(int entradas);

@@ -33,7 +33,6 @@ TEST_P(Capturas, everyScreenStandsInEveryLookAndSize)
     ponerMemoria();
     app();
     medir();
-    leerMemoria();
     abrir(GetParam().seccion);
     retratar(QStringLiteral("clara"), {.oscuro = false}, {1000, 700});
     retratar(QStringLiteral("oscura"), {.oscuro = true}, {1000, 700});

@@ -15,9 +15,39 @@ protected:
     {
         plataforma.m_apariencia.fijar({.movimientoReducido = true});
         ponerMemoria(nivel);
-        app();
-        leerMemoria();
+        abrirAlta();
+    }
+    /// The window is so tall that the whole screen can be seen at once.
+    void abrirAlta()
+    {
         abrir(Seccion::memoria);
+        ventana()->resize(1000, 2200);
+        reposar();
+    }
+    /// A picture of the usual size, with the row of this name in sight.
+    void retratar(const QString &nombre, const QString &fila = {})
+    {
+        if (qEnvironmentVariableIsEmpty("OVANTA_CAPTURAS")) return;
+        ventana()->resize(1000, 700);
+        reposar();
+        if (!fila.isEmpty()) enfocar(fila);
+        capturar(nombre);
+        ventana()->resize(1000, 2200);
+        reposar();
+    }
+    void enfocar(const QString &fila)
+    {
+        QAccessibleInterface *una = filaDe(QAccessible::queryAccessibleInterface(ventana()), fila);
+        ASSERT_NE(una, nullptr);
+        qobject_cast<QQuickItem *>(una->object())->forceActiveFocus(Qt::TabFocusReason);
+    }
+    /// The row of this name, also where it is scrolled out of sight.
+    static QAccessibleInterface *filaDe(QAccessibleInterface *desde, const QString &fila)
+    {
+        if (desde->role() == QAccessible::ListItem && desde->text(QAccessible::Name) == fila) return desde;
+        for (int i = 0; i < desde->childCount(); ++i)
+            if (auto *hallada = filaDe(desde->child(i), fila)) return hallada;
+        return nullptr;
     }
     void casilla(const QString &nombre) { pulsar(QAccessible::CheckBox, nombre); }
     std::int32_t pidDe(const std::string &nombre)
@@ -81,17 +111,17 @@ TEST_F(MemoriaVista, whatIsTickedIsClosedAfterAQuestionAndTheRestCanBeForced)
     esperar([&] { return seVe(QStringLiteral("¿Cerrar las aplicaciones seleccionadas?")); });
     EXPECT_TRUE(seVe(QStringLiteral(
         "macOS enviará la orden normal de cierre. Cada app puede pedirte guardar cambios antes de salir.")));
-    capturar(QStringLiteral("memoria-cerrar"));
+    retratar(QStringLiteral("memoria-cerrar"));
     pulsarBoton(QStringLiteral("Cerrar apps normalmente"));
     esperar([&] { return seVe(QStringLiteral("Esperando a que las apps se cierren…")); });
-    capturar(QStringLiteral("memoria-cerrando"));
+    retratar(QStringLiteral("memoria-cerrando"), QStringLiteral("Docker"));
     hastaVer(QStringLiteral("Forzar salida de Visual Studio Code"));
-    capturar(QStringLiteral("memoria-resultado"));
+    retratar(QStringLiteral("memoria-resultado"), QStringLiteral("Mail"));
     plataforma.m_apariencia.fijar({.oscuro = true, .movimientoReducido = true});
-    capturar(QStringLiteral("memoria-resultado-oscura"));
+    retratar(QStringLiteral("memoria-resultado-oscura"), QStringLiteral("Dock"));
     pulsarBoton(QStringLiteral("Forzar salida de Visual Studio Code"));
     esperar([&] { return seVe(QStringLiteral("¿Forzar la salida?")); });
-    capturar(QStringLiteral("memoria-forzar-oscura"));
+    retratar(QStringLiteral("memoria-forzar-oscura"));
     pulsarBoton(QStringLiteral("Forzar salida"));
     hastaVer(QStringLiteral("Forzada la salida de Visual Studio Code."));
     EXPECT_EQ(plataforma.m_enMarcha.forzadas.size(), 1U);
@@ -102,7 +132,7 @@ TEST_F(MemoriaVista, theRestartIsAskedForTwice)
     mostrarMemoria();
     pulsarBoton(QStringLiteral("Reiniciar…"));
     esperar([&] { return seVe(QStringLiteral("¿Reiniciar el Mac?")); });
-    capturar(QStringLiteral("memoria-reiniciar"));
+    retratar(QStringLiteral("memoria-reiniciar"));
     tecla(Qt::Key_Escape);
     esperar([&] { return !seVe(QStringLiteral("¿Reiniciar el Mac?")); });
     EXPECT_EQ(plataforma.m_reinicio.pedidos, 0);
@@ -111,9 +141,7 @@ TEST_F(MemoriaVista, theRestartIsAskedForTwice)
 TEST_F(MemoriaVista, theTableIsReachedAndTickedByKeyboard)
 {
     mostrarMemoria();
-    QAccessibleInterface *fila = objeto(QAccessible::ListItem, QStringLiteral("Google Chrome"));
-    ASSERT_NE(fila, nullptr);
-    qobject_cast<QQuickItem *>(fila->object())->forceActiveFocus(Qt::TabFocusReason);
+    enfocar(QStringLiteral("Google Chrome"));
     tecla(Qt::Key_Space);
     EXPECT_TRUE(seVe(QStringLiteral("Cerrar 1")));
     tecla(Qt::Key_Down);
@@ -128,7 +156,7 @@ TEST_F(MemoriaVista, withoutProcessesTheTableSaysSo)
     plataforma.m_apariencia.fijar({.movimientoReducido = true});
     app();
     leerMemoria();
-    abrir(Seccion::memoria);
+    abrirAlta();
     EXPECT_TRUE(seVe(QStringLiteral("Sin procesos medidos")));
     EXPECT_FALSE(seVe(QStringLiteral("Qué puedes hacer")));
     capturar(QStringLiteral("memoria-vacia"));
@@ -138,13 +166,10 @@ TEST_F(MemoriaVista, everyStateStandsInItsColours)
 {
     mostrarMemoria(MemoriaSistema::Nivel::tension);
     EXPECT_TRUE(seVe(QStringLiteral("Presión alta")));
-    capturar(QStringLiteral("memoria-tension"));
+    retratar(QStringLiteral("memoria-tension"));
     ponerMemoria(MemoriaSistema::Nivel::critico);
-    plataforma.m_reloj.fijar(plataforma.m_reloj.ahora() + 10s);
-    leerMemoria();
     plataforma.m_apariencia.fijar({.oscuro = true, .movimientoReducido = true});
     EXPECT_TRUE(seVe(QStringLiteral("Presión crítica")));
-    capturar(QStringLiteral("memoria-critico-oscura"));
-    tecla(Qt::Key_Tab, Qt::ShiftModifier);
-    capturar(QStringLiteral("memoria-abajo-oscura"));
+    retratar(QStringLiteral("memoria-critico-oscura"));
+    retratar(QStringLiteral("memoria-abajo-oscura"), QStringLiteral("fileproviderd"));
 }
