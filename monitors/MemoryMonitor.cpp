@@ -69,18 +69,29 @@ void MemoryMonitor::medir()
 QCoro::Task<> MemoryMonitor::recargar()
 {
     const QPointer vivo{this};
-    auto leer = [&memoria = m_plataforma.memoriaSistema()] { return memoria.leer(); };
-    auto futuro = enSegundoPlano(Prioridad::Utilidad, std::move(leer));
+    // The memory and the processes in one go: at rest each further task would wake the processor twice.
+    auto mirar = [&plataforma = m_plataforma] { return Vistos::de(plataforma); };
+    auto futuro = enSegundoPlano(Prioridad::Utilidad, std::move(mirar));
     m_lecturaEnCurso = QFuture<void>(futuro);
-    const MemoriaSistema::Lectura lectura = co_await futuro;
+    const Vistos vistos = co_await futuro;
     if (!vivo) co_return;
-    const Fecha ahora = m_plataforma.reloj().ahora();
-    publicarLectura(lectura, ahora);
-    auto procesos = leerProcesos();
-    co_await procesos;
-    if (!vivo) co_return;
-    publicarRecomendaciones(ahora);
+    publicarLectura(vistos.lectura, m_plataforma.reloj().ahora());
+    publicarProcesos(vistos);
+    publicarRecomendaciones(m_plataforma.reloj().ahora());
     m_leyendo = false;
+}
+
+MemoryMonitor::Vistos MemoryMonitor::Vistos::de(Plataforma &plataforma)
+{
+    AplicacionesEnMarcha &aplicaciones = plataforma.aplicacionesEnMarcha();
+    Vistos vistos;
+    vistos.lectura = plataforma.memoriaSistema().leer();
+    vistos.muestras = plataforma.procesos().muestrear();
+    vistos.fecha = plataforma.reloj().ahora();
+    vistos.nucleos = plataforma.procesos().nucleos();
+    vistos.apps = aplicaciones.listar();
+    vistos.identificadorPropio = aplicaciones.identificadorPropio();
+    return vistos;
 }
 
 void MemoryMonitor::publicarLectura(const MemoriaSistema::Lectura &lectura, Fecha ahora)
@@ -92,25 +103,6 @@ void MemoryMonitor::publicarLectura(const MemoriaSistema::Lectura &lectura, Fech
     m_anterior = swap;
     if (lectura.arranque) m_diasEncendido = diasEntre(*lectura.arranque, ahora);
     Q_EMIT lecturaChanged();
-}
-
-QCoro::Task<> MemoryMonitor::leerProcesos()
-{
-    const QPointer vivo{this};
-    auto mirar = [&plataforma = m_plataforma] {
-        AplicacionesEnMarcha &aplicaciones = plataforma.aplicacionesEnMarcha();
-        Vistos vistos;
-        vistos.muestras = plataforma.procesos().muestrear();
-        vistos.fecha = plataforma.reloj().ahora();
-        vistos.nucleos = plataforma.procesos().nucleos();
-        vistos.apps = aplicaciones.listar();
-        vistos.identificadorPropio = aplicaciones.identificadorPropio();
-        return vistos;
-    };
-    auto futuro = enSegundoPlano(Prioridad::Utilidad, std::move(mirar));
-    m_lecturaEnCurso = QFuture<void>(futuro);
-    const Vistos vistos = co_await futuro;
-    if (vivo) publicarProcesos(vistos);
 }
 
 void MemoryMonitor::publicarProcesos(const Vistos &vistos)

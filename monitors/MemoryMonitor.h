@@ -102,8 +102,12 @@ private:
     using Apps = std::vector<AplicacionEnMarcha>;
     using Orden = void (AplicacionesEnMarcha::*)(const AplicacionEnMarcha &);
 
+    /// What one reading saw.
     struct Vistos
     {
+        static Vistos de(Plataforma &plataforma);
+
+        MemoriaSistema::Lectura lectura;
         std::vector<MuestraProceso> muestras;
         unsigned nucleos = 1;
         Apps apps;
@@ -115,7 +119,6 @@ private:
     QString estadoQt() const;
 
     QCoro::Task<> recargar();
-    QCoro::Task<> leerProcesos();
     void publicarLectura(const MemoriaSistema::Lectura &lectura, Fecha ahora);
     void publicarProcesos(const Vistos &vistos);
     void publicarRecomendaciones(Fecha ahora);

@@ -9,8 +9,9 @@ namespace {
 /// Tools block their thread while they run, so there are more threads than the work itself needs.
 constexpr int hilosPorReserva = 8;
 
-/// An idle thread keeps a stack and a heap arena: let it go soon, the program rests most of the time.
-constexpr int caducidadMs = 5000;
+/// A thread that is done goes at once: waiting for more it would keep a stack and a heap arena, and wake
+/// the processor once more to end. The program rests most of the time.
+constexpr int caducidadMs = 0;
 
 struct Reserva
 {

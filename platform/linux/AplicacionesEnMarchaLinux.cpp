@@ -87,6 +87,13 @@ AplicacionesEnMarchaLinux::buscar(const AplicacionEnMarcha &app)
     return esEsa ? std::move(hallada) : std::nullopt;
 }
 
+/// Where windows cannot be listed, an application that shows itself may have unsaved work in one: only
+/// force, which says so, ends it.
+bool AplicacionesEnMarchaLinux::puedeTenerVentanas(const GrupoApp &grupo, const FotoProcesos &foto) const
+{
+    return m_fotografo->entorno().ventanasOcultas && aplicacionDe(grupo, foto).politica == Politica::regular;
+}
+
 bool AplicacionesEnMarchaLinux::senalar(const ProcesoVisto &proceso, int senal) const
 {
     const EntornoProcesos &entorno = m_fotografo->entorno();
@@ -100,6 +107,7 @@ void AplicacionesEnMarchaLinux::cerrar(const AplicacionEnMarcha &app)
     if (!hallada) return;
     // Who has windows may have something to save in them: it gets no signal, even if nobody hears this.
     if (!hallada->grupo.ventanas.empty()) return m_fotografo->ventanas().pedirCierre(hallada->grupo.ventanas);
+    if (puedeTenerVentanas(hallada->grupo, *hallada->foto)) return;
     for (const std::size_t i : raicesDe(hallada->grupo, *hallada->foto))
         senalar(hallada->foto->procesos[i], SIGTERM);
 }
@@ -138,7 +146,8 @@ void AplicacionesEnMarchaLinux::pedirFin(const std::vector<Proceso> &procesos)
 {
     const FotoRef foto = m_fotografo->ahora();
     for (const GrupoApp &grupo : agrupar(*foto, propioYAncestros(m_fotografo->entorno()))) {
-        if (grupo.intocable) continue;
+        // Another one of the same application may be asking its user to save.
+        if (grupo.intocable || !grupo.ventanas.empty() || puedeTenerVentanas(grupo, *foto)) continue;
         for (const std::size_t i : grupo.miembros) {
             const Proceso este{foto->procesos[i].pid, foto->procesos[i].inicio};
             if (std::ranges::find(procesos, este) != procesos.end()) senalar(foto->procesos[i], SIGTERM);

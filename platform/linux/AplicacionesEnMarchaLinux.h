@@ -9,8 +9,9 @@
 
 namespace ovanta {
 
-/// The applications of this user's session. Whatever record is handed in, it is compared with how things
-/// stand before anything is closed or signalled.
+/// The applications of this user's session. In a Wayland session no application that shows itself can be
+/// asked to quit, and it is left alone; forcing works there as anywhere. Whatever record is handed in, it is
+/// compared with how things stand before anything is closed or signalled.
 class AplicacionesEnMarchaLinux final : public AplicacionesEnMarcha
 {
 public:
@@ -39,6 +40,7 @@ private:
     std::optional<Hallada> buscarClave(const std::string &clave);
     std::optional<Hallada> buscar(const AplicacionEnMarcha &app);
     void matar(const Hallada &hallada);
+    bool puedeTenerVentanas(const GrupoApp &grupo, const FotoProcesos &foto) const;
     bool senalar(const ProcesoVisto &proceso, int senal) const;
 
     std::shared_ptr<FotografoProcesos> m_fotografo;

@@ -7,6 +7,7 @@
 #include "platform/linux/ProgramasConocidos.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <numeric>
 #include <time.h>
 #include <unistd.h>
@@ -82,6 +83,8 @@ EntornoProcesos EntornoProcesos::deEsteProceso()
     EntornoProcesos entorno;
     entorno.uid = ::getuid();
     entorno.propio = ::getpid();
+    const char *wayland = std::getenv("WAYLAND_DISPLAY");
+    entorno.ventanasOcultas = wayland && *wayland;
     entorno.marcasPorMinuto = 60 * static_cast<std::uint64_t>(std::max(::sysconf(_SC_CLK_TCK), 1L));
     return entorno;
 }

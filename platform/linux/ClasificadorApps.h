@@ -47,6 +47,8 @@ struct EntornoProcesos
     std::uint32_t uid = 0;
     std::int32_t propio = 0;                  ///< pid of this program
     std::uint64_t marcasPorMinuto = 60 * 100; ///< `ProcesoVisto::inicio` in a minute
+    /// A Wayland session: applications have windows that nobody else may list or close.
+    bool ventanasOcultas = false;
 
     static EntornoProcesos deEsteProceso();
     /// This moment, in the unit of `ProcesoVisto::inicio`.

@@ -92,6 +92,37 @@ TEST_F(CerrarAplicaciones, helpersThatOutliveItAreFoundAndAskedToEnd)
     EXPECT_TRUE(apps->procesosDe(*app.ruta).empty());
 }
 
+TEST_F(CerrarAplicaciones, aSecondOneOfTheSameThatStillHasAWindowIsNoRemnant)
+{
+    auto primera = abrirConVentana("cierra", "doble");
+    auto segunda = abrirConVentana("pregunta", "doble");
+    auto apps = crear();
+    const auto app = esperarApp(*apps, "doble");
+    apps->cerrar(app);
+    EXPECT_EQ(primera->esperarFin(), porSuVentana);
+    ASSERT_TRUE(segunda->esperarQueDiga("preguntado"));
+    apps->pedirFin(apps->procesosDe(*app.ruta));
+    dejarPasar();
+    EXPECT_TRUE(segunda->vive()) << "it waits for its user to save";
+    apps->forzar(esperarApp(*apps, "doble"));
+    EXPECT_EQ(segunda->esperarFin(), porSigkill);
+}
+
+TEST_F(CerrarAplicaciones, whereWindowsCannotBeListedOnlyForceEndsWhatShowsItself)
+{
+    auto programa = abrirConVentana("cierra", "escondida");
+    EntornoProcesos entorno = EntornoProcesos::deEsteProceso();
+    entorno.ventanasOcultas = true;
+    auto apps = crear(entorno, std::nullopt);
+    const auto app = esperarApp(*apps, "escondida");
+    apps->cerrar(app);
+    apps->pedirFin({{app.pid, app.inicio}});
+    dejarPasar();
+    EXPECT_TRUE(programa->vive());
+    apps->forzar(app);
+    EXPECT_EQ(programa->esperarFin(), porSigkill);
+}
+
 TEST_F(CerrarAplicaciones, forcingTakesTheHelpersAlong)
 {
     auto programa = abrirConVentana("ayudantes", "numerosa-forzada");
