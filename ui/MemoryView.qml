@@ -10,7 +10,7 @@ Item {
     ColumnLayout {
         anchors.fill: parent
         spacing: 0
-        PantallaDesplazable {
+        PaginaDesplazable {
             Layout.fillWidth: true
             Layout.fillHeight: true
             CabeceraMemoria {
