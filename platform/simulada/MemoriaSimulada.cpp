@@ -28,7 +28,7 @@ constexpr Apuro apuroDe(MemoriaSistema::Nivel nivel)
     case MemoriaSistema::Nivel::tension:
         return {2, 0.56, 0.17, 0.06, 3 * gib + gib / 2, 4 * gib, 140};
     case MemoriaSistema::Nivel::critico:
-        return {4, 0.58, 0.23, 0.03, 7 * gib, 8 * gib, 1300};
+        return {4, 0.58, 0.20, 0.03, 7 * gib, 8 * gib, 1300};
     case MemoriaSistema::Nivel::normal:
         break;
     }
