@@ -18,7 +18,7 @@ class AppDePrueba:
     def __init__(self, escritorio, casa, modo, nombre, mib=MIB):
         self.nombre = nombre
         # Unlike any program of another run of these tests on this machine: that one must not end with it.
-        clave = f"{nombre.lower().replace(' ', '-')}-{os.getpid()}"
+        clave = f"prueba-{modo}-{os.getpid()}"
         self.titulo = clave
         self.binario = casa.en(f"opt/{clave}/{clave}")
         os.makedirs(os.path.dirname(self.binario))

@@ -22,6 +22,8 @@ MENSAJE_REINICIAR = ("Es la única forma de vaciar el swap. macOS te pedirá con
                      "sus cambios.")
 SIGUE = (". Puede que estén esperando a que guardes algo, o que se hayan escondido en la barra de menú en vez "
          "de salir.")
+# Longer than a button is wide.
+INSEGURA = "Prueba insegura con un nombre que nadie acabaría de leer"
 GIB = 2**20  # in the unit of /proc/meminfo
 
 # A machine of 16 GB with 3 GB of old swap, where nothing happens now.
@@ -73,28 +75,28 @@ class CerrarAplicaciones(ConGestorDeVentanas, PruebaDeEscritorio):
 
     def test_la_que_pregunta_sigue_abierta_y_solo_ella_se_puede_forzar(self):
         cierra = self.abrir("cierra", "Prueba dispuesta")
-        pregunta = self.abrir("pregunta", "Prueba insegura")
+        pregunta = self.abrir("pregunta", INSEGURA)
         programa, pantalla = self.mirar()
         pantalla.cerrar(cierra.nombre, pregunta.nombre)
         pantalla.esperar_texto("Esperando a que las apps se cierren…")
-        self.esperar_respuesta(pantalla, f"Cerradas: Prueba dispuesta. Siguen abiertas: Prueba insegura{SIGUE}")
+        self.esperar_respuesta(pantalla, f"Cerradas: Prueba dispuesta. Siguen abiertas: {INSEGURA}{SIGUE}")
         self.assertEqual(cierra.codigo_de_salida(), POR_SU_VENTANA)
         self.assertTrue(pregunta.vive)
 
-        pantalla.ventana.esperar("Forzar salida de Prueba insegura", BOTON).pulsar()
+        pantalla.ventana.esperar(f"Forzar salida de {INSEGURA}", BOTON).pulsar()
         self.assertEqual(pantalla.pregunta(FORZAR).textos(),
                          [FORZAR, FORZAR, MENSAJE_FORZAR, "Cancelar", "Forzar salida"])
         pantalla.responder(FORZAR, "Cancelar")
         self.assertTrue(pregunta.vive)
-        pantalla.ventana.esperar("Forzar salida de Prueba insegura", BOTON).pulsar()
+        pantalla.ventana.esperar(f"Forzar salida de {INSEGURA}", BOTON).pulsar()
         pantalla.responder(FORZAR, "Forzar salida")
-        self.esperar_respuesta(pantalla, "Forzada la salida de Prueba insegura.")
+        self.esperar_respuesta(pantalla, f"Forzada la salida de {INSEGURA}.")
         self.assertEqual(pregunta.codigo_de_salida(), -signal.SIGKILL)
         self.assertEqual(pantalla.ventana.buscar(contiene="Forzar salida de "), [])
         self.salir_sin_quejas(programa)
 
     def test_cancelar_no_cierra_ni_desmarca_nada(self):
-        app = self.abrir("pregunta", "Prueba insegura")
+        app = self.abrir("pregunta", INSEGURA)
         programa, pantalla = self.mirar()
         pantalla.marcar(app.nombre)
         pantalla.pedir_cierre(1)
@@ -104,7 +106,7 @@ class CerrarAplicaciones(ConGestorDeVentanas, PruebaDeEscritorio):
 
         pantalla.pedir_cierre(1)
         pantalla.responder(CERRAR, "Cerrar apps normalmente")
-        self.esperar_respuesta(pantalla, f"Siguen abiertas: Prueba insegura{SIGUE}")
+        self.esperar_respuesta(pantalla, f"Siguen abiertas: {INSEGURA}{SIGUE}")
         self.assertEqual(app.veces("preguntado"), 1, "solo la segunda vez se le pidió")
         self.assertFalse(pantalla.marcada(app.nombre))
         self.salir_sin_quejas(programa)
@@ -161,6 +163,11 @@ class Reiniciar(PruebaDeEscritorio):
         self.sesion.aparecer()
         self.addCleanup(self.sesion.desaparecer)
 
+    def sin_movimiento(self):
+        """Sheets come and go at once, in the middle of what opens and closes them."""
+        self.escritorio.portal.animaciones(False)
+        self.addCleanup(self.escritorio.portal.animaciones, True)
+
     def con_swap_viejo(self):
         """The program, where the kernel tells of another machine's memory. The real system is out of reach."""
         for nombre, texto in PROC.items():
@@ -173,6 +180,7 @@ class Reiniciar(PruebaDeEscritorio):
                             DBUS_SYSTEM_BUS_ADDRESS="disabled:")
 
     def test_cancelar_no_pide_nada_y_confirmar_lo_pide_una_vez(self):
+        self.sin_movimiento()
         programa = self.con_swap_viejo()
         pantalla = PantallaMemoria(programa.ventana())
         pantalla.esperar_texto("3 GB usados de 8 GB")
