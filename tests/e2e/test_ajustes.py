@@ -190,7 +190,7 @@ class LaBarraDeTareas(ConGestorDeVentanas, ConAjustes):
         pedir_cierre(self.escritorio, int(self.numero(), 16))
         esperar(lambda: self.omitida() is None, "que se cierre la ventana")
         self.assertIsNone(programa.proceso.poll(), "sin ventana ni Dock el programa sigue")
-        programa.icono().pulsar()
+        programa.icono().pulsar_con_el_medio()
         esperar(self.omitida, "la ventana nueva fuera de la barra")
         self.salir_sin_quejas(programa)
 
