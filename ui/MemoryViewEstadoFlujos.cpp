@@ -68,22 +68,20 @@ void MemoryViewEstado::pedirForzar()
     Q_EMIT flujoChanged();
 }
 
+// A sheet that closes because its question was answered says so too: that is no news.
 void MemoryViewEstado::cancelarCierre()
 {
-    m_confirmandoCierre = false;
-    Q_EMIT flujoChanged();
+    if (std::exchange(m_confirmandoCierre, false)) Q_EMIT flujoChanged();
 }
 
 void MemoryViewEstado::cancelarForzar()
 {
-    m_confirmandoForzar = false;
-    Q_EMIT flujoChanged();
+    if (std::exchange(m_confirmandoForzar, false)) Q_EMIT flujoChanged();
 }
 
 void MemoryViewEstado::cancelarReinicio()
 {
-    m_confirmandoReinicio = false;
-    Q_EMIT flujoChanged();
+    if (std::exchange(m_confirmandoReinicio, false)) Q_EMIT flujoChanged();
 }
 
 void MemoryViewEstado::confirmarCierre()

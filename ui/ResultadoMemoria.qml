@@ -28,7 +28,7 @@ RowLayout {
     Boton {
         visible: raiz.quedan
         text: raiz.estado.textoForzar
-        Layout.maximumWidth: raiz.width * 0.45
+        Layout.maximumWidth: 280
         Layout.alignment: Qt.AlignTop
         onClicked: raiz.estado.pedirForzar()
     }

@@ -1,13 +1,13 @@
 """The program in its session: one instance, the tray, the window, and a prompt end."""
 
 import os
-import subprocess
 import unittest
 
 from accesible import FILA
 from caches import PantallaCaches
 from esperar import esperar
 from instalacion import instalar, regla
+from procesos import hay_espacios_de_montaje
 from programa import Casa
 from prueba import PruebaDeEscritorio
 from ventanas import abiertas, esperar_abierta, esperar_ninguna, pedir_cierre
@@ -20,10 +20,6 @@ echo $$ $! > "{lista}"
 wait
 sleep 1000
 """
-
-
-def hay_espacios_de_montaje():
-    return subprocess.run(["unshare", "--mount", "true"], capture_output=True).returncode == 0
 
 
 def leer_numeros(archivo):

@@ -1,11 +1,13 @@
-// A small X11 program that the tests close and force. Usage: ventana MODE CLASS
+// A small X11 program that the tests close and force. Usage: ventana MODE CLASS [MIB]
 //   cierra      ends when its window is closed, with exit code 7
 //   pregunta    opens a dialogue instead and stays; says "preguntado"
 //   sordo       hears neither its window nor SIGTERM; says "sordo" each time
 //   ayudantes   as "cierra", with two helpers that outlive it
 //   fondo       draws the desktop's background
 //   mudo        has no window
+// MIB is how much memory it takes besides.
 #include <array>
+#include <charconv>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -14,11 +16,13 @@
 #include <string_view>
 #include <sys/prctl.h>
 #include <unistd.h>
+#include <vector>
 #include <xcb/xcb.h>
 
 namespace {
 
 constexpr int cerradaPorSuVentana = 7;
+constexpr unsigned vidaMaxima = 300; // seconds: it must not outlive tests that crashed
 
 void decir(const char *texto)
 {
@@ -79,10 +83,18 @@ void dejarAyudantes()
     for (int i = 0; i < 2; ++i) {
         if (::fork() != 0) continue;
         ::prctl(PR_SET_PDEATHSIG, 0);
-        ::alarm(120);
+        ::alarm(vidaMaxima);
         ::pause();
         ::_exit(0);
     }
+}
+
+/// Every page is written, or the system would not count it.
+std::vector<char> tomarMemoria(std::string_view mib)
+{
+    std::size_t cuanta = 0;
+    std::from_chars(mib.data(), mib.data() + mib.size(), cuanta);
+    return std::vector<char>(cuanta << 20U, 1);
 }
 
 int atender(xcb_connection_t *conexion, xcb_window_t ventana, std::string_view modo, const std::string &clase)
@@ -108,7 +120,8 @@ int main(int argc, char **argv)
     if (argc < 3) return 2;
     const std::string_view modo = argv[1];
     const std::string clase = argv[2];
-    ::alarm(120); // it must not outlive tests that crashed
+    const std::vector<char> memoria = tomarMemoria(argc > 3 ? argv[3] : "0");
+    ::alarm(vidaMaxima);
     if (modo == "sordo") std::signal(SIGTERM, SIG_IGN);
     if (modo == "ayudantes") dejarAyudantes();
     if (modo == "mudo") {
