@@ -42,11 +42,9 @@ TEST_P(Capturas, everyScreenStandsInEveryLookAndSize)
     retratar(QStringLiteral("contraste-oscura"), {.oscuro = true, .altoContraste = true}, {1000, 700});
 }
 
-INSTANTIATE_TEST_SUITE_P(Pantallas, Capturas,
-                         testing::Values(Vista{"resumen", Seccion::resumen},
-                                         Vista{"caches", Seccion::espacio},
-                                         Vista{"historial", Seccion::historial},
-                                         Vista{"ajustes", Seccion::ajustes},
-                                         Vista{"memoria", Seccion::memoria},
-                                         Vista{"construccion", Seccion::salud}),
-                         [](const auto &info) { return info.param.nombre; });
+INSTANTIATE_TEST_SUITE_P(
+    Pantallas, Capturas,
+    testing::Values(Vista{"resumen", Seccion::resumen}, Vista{"caches", Seccion::espacio},
+                    Vista{"historial", Seccion::historial}, Vista{"ajustes", Seccion::ajustes},
+                    Vista{"memoria", Seccion::memoria}, Vista{"construccion", Seccion::salud}),
+    [](const auto &info) { return info.param.nombre; });
