@@ -47,14 +47,18 @@ ColumnLayout {
                     width: ListView.view.width
                 }
             }
-            EstadoVacio {
+            Item {
                 visible: raiz.estado.vacio
-                simbolo: "memorychip"
-                titulo: "Sin procesos medidos"
-                mensaje: "Pulsa Actualizar para volver a leerlos."
+                implicitHeight: nada.implicitHeight + 2 * Tema.espacio6
                 Layout.fillWidth: true
-                Layout.topMargin: Tema.espacio6
-                Layout.bottomMargin: Tema.espacio6
+                EstadoVacio {
+                    id: nada
+                    anchors.centerIn: parent
+                    width: parent.width - 2 * Tema.margen
+                    simbolo: "memorychip"
+                    titulo: "Sin procesos medidos"
+                    mensaje: "Pulsa Actualizar para volver a leerlos."
+                }
             }
         }
     }
