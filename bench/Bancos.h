@@ -9,5 +9,6 @@ int bancoValidar(int argc, char **argv);
 int bancoPapelera(int argc, char **argv);
 int bancoMuestra(int argc, char **argv);
 int bancoProc(int argc, char **argv);
+int bancoTicks(int argc, char **argv);
 
 } // namespace ovanta

@@ -16,6 +16,7 @@ constexpr Verbo verbos[] = {
     {"ejecutar", ovanta::bancoEjecutar}, {"validar", ovanta::bancoValidar},
     {"papelera", ovanta::bancoPapelera}, {"muestra", ovanta::bancoMuestra},
     {"proc", ovanta::bancoProc},
+    {"ticks", ovanta::bancoTicks},
 };
 
 int explicarUso()

@@ -4,18 +4,25 @@ from contextlib import contextmanager
 
 from Xlib import X
 from Xlib.display import Display
+from Xlib.error import BadDrawable, BadWindow
 from Xlib.protocol import event
 
 from esperar import esperar
+
+
+def se_ve(ventana, titulo):
+    try:
+        return (ventana.get_attributes().map_state == X.IsViewable and ventana.get_geometry().width > 1
+                and ventana.get_wm_name() == titulo)
+    except (BadDrawable, BadWindow):
+        return False  # closed since it was listed
 
 
 def abiertas(escritorio, titulo="Ovanta"):
     """The mapped windows with this title, bottom to top."""
     pantalla = Display(escritorio.display)
     try:
-        ventanas = pantalla.screen().root.query_tree().children
-        return [v.id for v in ventanas if v.get_attributes().map_state == X.IsViewable
-                and v.get_geometry().width > 1 and v.get_wm_name() == titulo]
+        return [v.id for v in pantalla.screen().root.query_tree().children if se_ve(v, titulo)]
     finally:
         pantalla.close()
 
