@@ -13,6 +13,8 @@ Bandeja::Bandeja(QObject *parent) : QObject(parent)
     m_linea = m_menu.addAction(QString());
     m_linea->setEnabled(false);
     m_menu.addSeparator();
+    connect(m_menu.addAction(QStringLiteral("Mostrar panel")), &QAction::triggered, this,
+            &Bandeja::panelPedido);
     connect(m_menu.addAction(QStringLiteral("Abrir Ovanta")), &QAction::triggered, this,
             &Bandeja::abrirPedido);
     connect(m_menu.addAction(QStringLiteral("Actualizar ahora")), &QAction::triggered, this,
@@ -29,12 +31,14 @@ void Bandeja::aparecer()
     m_icono->setContextMenu(&m_menu);
     m_pintado.reset();
     pintar();
-    connect(m_icono.get(), &QSystemTrayIcon::activated, this,
-            [this](QSystemTrayIcon::ActivationReason razon) {
-                if (razon == QSystemTrayIcon::Trigger || razon == QSystemTrayIcon::DoubleClick)
-                    Q_EMIT pulsada();
-            });
+    connect(m_icono.get(), &QSystemTrayIcon::activated, this, &Bandeja::activar);
     m_icono->show();
+}
+
+void Bandeja::activar(QSystemTrayIcon::ActivationReason razon)
+{
+    if (razon == QSystemTrayIcon::Trigger) Q_EMIT pulsada();
+    if (razon == QSystemTrayIcon::MiddleClick || razon == QSystemTrayIcon::DoubleClick) Q_EMIT abrirPedido();
 }
 
 void Bandeja::desaparecer()

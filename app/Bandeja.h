@@ -36,16 +36,22 @@ public:
     void actualizar(const Estado &estado);
 
     QMenu &menu() { return m_menu; }
+    /// Where the icon stands on the screen; empty where the host does not tell.
+    QRect lugar() const { return m_icono ? m_icono->geometry() : QRect(); }
     QString ayuda() const { return m_icono ? m_icono->toolTip() : QString(); }
     QIcon imagen() const { return m_icono ? m_icono->icon() : QIcon(); }
 
 Q_SIGNALS:
+    /// The icon was clicked.
     void pulsada();
+    /// The menu's own way to the panel: some hosts answer every click with the menu.
+    void panelPedido();
     void abrirPedido();
     void actualizarPedido();
     void salirPedido();
 
 private:
+    void activar(QSystemTrayIcon::ActivationReason razon);
     void pintar();
     void pintarImagen();
     bool mismaImagen() const;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QRect>
 
 namespace ovanta {
 
@@ -26,9 +27,20 @@ public:
     /// bring it back.
     virtual void minimizarAlCerrar(bool si) = 0;
 
+    /// Opens the panel of the tray beside `icono`, the place of the status icon on the screen, or where
+    /// the pointer is if that is empty. Its scene is built here and destroyed when the panel closes,
+    /// which it also does by itself once the user turns to something else.
+    virtual void abrirPanel(const QRect &icono) = 0;
+    virtual void cerrarPanel() = 0;
+    virtual bool panelAbierto() const = 0;
+
 Q_SIGNALS:
     void ventanaAbierta();
     void ventanaCerrada();
+    /// `porFoco`: the user turned to something else.
+    void panelCerrado(bool porFoco);
+    /// The user wants the program to end.
+    void salirPedido();
 };
 
 /// The one entry point of the library, under the C name `crearInterfaz`.

@@ -3,8 +3,9 @@
 namespace ovanta {
 
 OvantaApp::OvantaApp(Plataforma &plataforma, QObject *parent)
-    : QObject(parent), m_plataforma(plataforma), m_disco(plataforma), m_reglas(plataforma),
-      m_limpiador(plataforma), m_scanner(plataforma), m_stats(plataforma)
+    : QObject(parent), m_plataforma(plataforma), m_disco(plataforma), m_sims(plataforma),
+      m_reglas(plataforma), m_limpiador(plataforma), m_scanner(plataforma), m_mem(plataforma),
+      m_stats(plataforma)
 {
 }
 

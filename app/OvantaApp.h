@@ -4,7 +4,9 @@
 #include "app/NavegacionAplicacion.h"
 #include "core/Cleaner.h"
 #include "core/RuleStore.h"
+#include "developer/SimulatorStore.h"
 #include "monitors/DiskMonitor.h"
+#include "monitors/MemoryMonitor.h"
 #include "monitors/SystemStatsMonitor.h"
 #include "platform/Plataforma.h"
 
@@ -27,18 +29,22 @@ public:
     Plataforma &plataforma() { return m_plataforma; }
 
     DiskMonitor &disco() { return m_disco; }
+    SimulatorStore &sims() { return m_sims; }
     RuleStore &reglas() { return m_reglas; }
     Cleaner &limpiador() { return m_limpiador; }
     Scanner &scanner() { return m_scanner; }
+    MemoryMonitor &mem() { return m_mem; }
     NavegacionAplicacion &navegacion() { return m_navegacion; }
     SystemStatsMonitor &stats() { return m_stats; }
 
 private:
     Plataforma &m_plataforma;
     DiskMonitor m_disco;
+    SimulatorStore m_sims;
     RuleStore m_reglas;
     Cleaner m_limpiador;
     Scanner m_scanner;
+    MemoryMonitor m_mem;
     NavegacionAplicacion m_navegacion;
     SystemStatsMonitor m_stats;
 };

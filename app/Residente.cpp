@@ -18,9 +18,10 @@ constexpr std::chrono::seconds esperaAnfitrion{20};
 Residente::Residente(OvantaApp &app, QStringList bibliotecas)
     : m_app(app), m_cargador(app, std::move(bibliotecas))
 {
-    connect(&m_bandeja, &Bandeja::pulsada, this, &Residente::abrirVentana);
+    connect(&m_bandeja, &Bandeja::pulsada, this, &Residente::alternarPanel);
+    connect(&m_bandeja, &Bandeja::panelPedido, this, &Residente::abrirPanel);
     connect(&m_bandeja, &Bandeja::abrirPedido, this, &Residente::abrirVentana);
-    connect(&m_bandeja, &Bandeja::actualizarPedido, &m_app.disco(), &DiskMonitor::medir);
+    connect(&m_bandeja, &Bandeja::actualizarPedido, this, &Residente::actualizarDatos);
     connect(&m_bandeja, &Bandeja::salirPedido, this, &Residente::salirPedido);
     connect(&m_app.disco(), &DiskMonitor::lecturaChanged, this, &Residente::actualizarBandeja);
     connect(&m_app.disco(), &DiskMonitor::nivelChanged, this, &Residente::actualizarBandeja);
@@ -53,14 +54,51 @@ bool Residente::empezar()
 void Residente::abrirVentana()
 {
     OVANTA_HILO_PRINCIPAL();
-    Interfaz *interfaz = m_cargador.interfaz();
-    if (!interfaz) {
-        m_app.plataforma().dialogoCritico().mostrar("No se pudo abrir la ventana de Ovanta",
-                                                    bytesDe(m_cargador.error()), "Entendido", [] {});
+    Interfaz *ventanas = interfaz();
+    if (ventanas && !ventanas->enfocarVentanaExistente()) ventanas->abrirVentana();
+}
+
+void Residente::abrirPanel()
+{
+    OVANTA_HILO_PRINCIPAL();
+    if (Interfaz *ventanas = interfaz()) ventanas->abrirPanel(m_bandeja.lugar());
+}
+
+void Residente::alternarPanel()
+{
+    const Interfaz *ventanas = m_cargador.interfazSiHay();
+    switch (m_toques.pulsar(ventanas && ventanas->panelAbierto(), m_app.plataforma().reloj().ahora())) {
+    case ToquesDelIcono::Accion::abrir:
+        return abrirPanel();
+    case ToquesDelIcono::Accion::cerrar:
+        return m_cargador.interfazSiHay()->cerrarPanel();
+    case ToquesDelIcono::Accion::nada:
         return;
     }
-    interfaz->minimizarAlCerrar(!m_bandeja.visible());
-    if (!interfaz->enfocarVentanaExistente()) interfaz->abrirVentana();
+}
+
+void Residente::actualizarDatos()
+{
+    m_app.disco().medir();
+    m_app.sims().cargar();
+}
+
+/// The windows, ready to be opened; nothing where they cannot be loaded, which the user is told.
+Interfaz *Residente::interfaz()
+{
+    if (Interfaz *cargada = m_cargador.interfazSiHay()) return cargada;
+    Interfaz *nueva = m_cargador.interfaz();
+    if (!nueva) {
+        m_app.plataforma().dialogoCritico().mostrar("No se pudo abrir la ventana de Ovanta",
+                                                    bytesDe(m_cargador.error()), "Entendido", [] {});
+        return nullptr;
+    }
+    nueva->minimizarAlCerrar(!m_bandeja.visible());
+    connect(nueva, &Interfaz::salirPedido, this, &Residente::salirPedido);
+    connect(nueva, &Interfaz::panelCerrado, this, [this](bool porFoco) {
+        if (porFoco) m_toques.panelPerdioElFoco(m_app.plataforma().reloj().ahora());
+    });
+    return nueva;
 }
 
 void Residente::seguirAnfitrion()

@@ -3,13 +3,14 @@
 #include "app/Bandeja.h"
 #include "app/CargadorInterfaz.h"
 #include "app/OvantaApp.h"
+#include "app/ToquesDelIcono.h"
 
 #include <QObject>
 
 namespace ovanta {
 
-/// The life of the program in the session: one instance, the status icon, and the main window that
-/// comes and goes while the program stays. Main thread.
+/// The life of the program in the session: one instance, the status icon, and the panel and the main
+/// window that come and go while the program stays. Main thread.
 class Residente : public QObject
 {
     Q_OBJECT
@@ -23,6 +24,9 @@ public:
     /// Opens the main window or brings it to the front.
     void abrirVentana();
 
+    /// Opens the panel beside the icon.
+    void abrirPanel();
+
     Bandeja &bandeja() { return m_bandeja; }
     CargadorInterfaz &cargador() { return m_cargador; }
 
@@ -31,6 +35,9 @@ Q_SIGNALS:
     void salirPedido();
 
 private:
+    Interfaz *interfaz();
+    void alternarPanel();
+    void actualizarDatos();
     void seguirAnfitrion();
     void actualizarBandeja();
     Bandeja::Estado estadoDeBandeja() const;
@@ -39,6 +46,7 @@ private:
     OvantaApp &m_app;
     Bandeja m_bandeja;
     CargadorInterfaz m_cargador;
+    ToquesDelIcono m_toques;
     std::unique_ptr<Reloj::Temporizador> m_esperaAnfitrion;
 };
 

@@ -10,5 +10,7 @@ int bancoPapelera(int argc, char **argv);
 int bancoMuestra(int argc, char **argv);
 int bancoDups(int argc, char **argv);
 int bancoWalk(int argc, char **argv);
+int bancoProc(int argc, char **argv);
+int bancoTicks(int argc, char **argv);
 
 } // namespace ovanta

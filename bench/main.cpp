@@ -16,6 +16,7 @@ constexpr Verbo verbos[] = {
     {"ejecutar", ovanta::bancoEjecutar}, {"validar", ovanta::bancoValidar},
     {"papelera", ovanta::bancoPapelera}, {"muestra", ovanta::bancoMuestra},
     {"dups", ovanta::bancoDups},         {"walk", ovanta::bancoWalk},
+    {"proc", ovanta::bancoProc},         {"ticks", ovanta::bancoTicks},
 };
 
 int explicarUso()

@@ -5,13 +5,19 @@ name, ours, reference, ratio.
 Usage: medir.py BIN_FOLDER [--segundos N] [--solo NAME,...]
 """
 import argparse
+import fcntl
 import json
 import os
+import pty
+import shutil
 import signal
 import statistics
+import struct
 import subprocess
 import sys
 import tempfile
+import termios
+import threading
 import time
 from pathlib import Path
 
@@ -144,6 +150,82 @@ def medir_papelera(_, binarios):
     linea("mover a la Papelera frente a trash-put", datos["papelera_us"], datos["trash_put_us"], "µs")
 
 
+class Durmientes:
+    """Idle processes, that end with the block."""
+
+    def __init__(self, cuantos):
+        self.cuantos = cuantos
+
+    def __enter__(self):
+        self.procesos = [subprocess.Popen(["sleep", "600"]) for _ in range(self.cuantos)]
+
+    def __exit__(self, *_):
+        for proceso in self.procesos:
+            proceso.kill()
+        for proceso in self.procesos:
+            proceso.wait()
+
+
+def procesador_de(pid):
+    """Processor seconds so far, of all its threads."""
+    return sum(int((tarea / "schedstat").read_text().split()[0])
+               for tarea in Path(f"/proc/{pid}/task").iterdir()) / 1e9
+
+
+def frente_a_monitor(binarios, orden, periodo, refrescos=10):
+    """Processor microseconds of a sweep for one process, and of a refresh of a monitor in a terminal of
+    its own: both at that period, side by side."""
+    hogar = hogar_vacio()
+    pid, terminal = pty.fork()
+    if pid == 0:
+        entorno = {"PATH": os.environ["PATH"], "HOME": hogar.name, "TERM": "xterm-256color", "LANG": "C.UTF-8"}
+        os.execvpe(orden[0], orden, entorno)
+    fcntl.ioctl(terminal, termios.TIOCSWINSZ, struct.pack("HHHH", 50, 160, 0, 0))
+    lector = threading.Thread(target=vaciar, args=(terminal,), daemon=True)
+    lector.start()
+    time.sleep(2 + 2 * periodo)
+    antes, desde = procesador_de(pid), time.monotonic()
+    datos = banco(binarios, "proc", str(refrescos), str(1000 * periodo))
+    veces = (time.monotonic() - desde) / periodo
+    gastado = (procesador_de(pid) - antes) * 1e6
+    os.kill(pid, signal.SIGKILL)
+    os.waitpid(pid, 0)
+    lector.join(5)
+    os.close(terminal)
+    hogar.cleanup()
+    return datos["cpu_us_per_process"], gastado / veces / datos["processes"]
+
+
+def vaciar(terminal):
+    try:
+        while os.read(terminal, 65536):
+            pass
+    except OSError:
+        pass  # the program at the other end is gone
+
+
+MONITORES = {
+    "top": (["top", "-b", "-d", "1"], 1),
+    "htop": (["htop", "-d", "10"], 1),
+    "btop": (["btop", "--utf-force"], 2),
+}
+
+
+def medir_procesos(_, binarios):
+    """Processor time, as that is what a monitor costs the others; the peers draw what they read."""
+    with Durmientes(400):
+        referencia = json.loads(subprocess.run([str(binarios / "referencia_proc"), "200"], check=True,
+                                               capture_output=True, text=True).stdout)
+        linea("barrer un proceso, frente a leer stat y statm",
+              banco(binarios, "proc", "200")["cpu_us_per_process"], referencia["cpu_us_per_process"], "µs")
+        for nombre, (orden, periodo) in MONITORES.items():
+            titulo = "barrer un proceso, frente a " + nombre
+            if shutil.which(orden[0]) is None:
+                print(f"{titulo:44} no está instalado")
+                continue
+            linea(titulo, *frente_a_monitor(binarios, orden, periodo), "µs")
+
+
 def main():
     argumentos = argparse.ArgumentParser()
     argumentos.add_argument("binarios", type=Path)
@@ -157,6 +239,7 @@ def main():
         "ejecutar": lambda e: medir_ejecutar(e, binarios),
         "seguridad": lambda e: medir_seguridad(e, binarios),
         "papelera": lambda e: medir_papelera(e, binarios),
+        "procesos": lambda e: medir_procesos(e, binarios),
     }
     elegidas = [m for m in opciones.solo.split(",") if m] or list(medidas)
     print(f"{'':44} {'Ovanta':>12} {'referencia':>12} {'razón':>8}")

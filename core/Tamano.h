@@ -29,6 +29,19 @@ inline std::uint64_t sumarConTope(std::uint64_t a, std::uint64_t b)
     return __builtin_add_overflow(a, b, &r) ? UINT64_MAX : r;
 }
 
+/// The same for a product.
+inline std::uint64_t multiplicarConTope(std::uint64_t a, std::uint64_t b)
+{
+    std::uint64_t r = 0;
+    return __builtin_mul_overflow(a, b, &r) ? UINT64_MAX : r;
+}
+
+/// What is left of `a`, and 0 where `b` is more: figures that were not read at one moment.
+inline std::uint64_t restarHastaCero(std::uint64_t a, std::uint64_t b)
+{
+    return a > b ? a - b : 0;
+}
+
 inline std::uint64_t multiplicar(std::uint64_t a, std::uint64_t b)
 {
     std::uint64_t r = 0;

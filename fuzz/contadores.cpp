@@ -6,8 +6,8 @@
 
 using namespace ovanta;
 
-/// Whatever /proc shows: no reading depends on what follows its line, the sums over two halves of the
-/// interfaces are the sum over all, and a memory without a size is none.
+/// Whatever /proc shows: no reading depends on what follows its line, and the sums over two halves of the
+/// interfaces are the sum over all.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *datos, std::size_t tamano)
 {
     const std::string_view texto(reinterpret_cast<const char *>(datos), tamano);
@@ -17,9 +17,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *datos, std::size_t tam
     const auto unas = interpretarNetDev(texto, nombreDeTarjeta);
     const auto otras = interpretarNetDev(texto, [](std::string_view i) { return !nombreDeTarjeta(i); });
     if (todas != Contadores::Red{unas.entrada + otras.entrada, unas.salida + otras.salida}) std::abort();
-
-    const auto memoria = interpretarMeminfo(texto);
-    if (memoria && memoria->fisica == 0) std::abort();
-    if (interpretarZram(texto) != 0 && texto.empty()) std::abort();
     return 0;
 }

@@ -21,6 +21,9 @@ public:
 
     virtual Estado actual() const = 0;
 
+    /// Whether parts of a window may let through what lies below: something blends the windows now.
+    virtual bool transparencia() const { return false; }
+
     /// Calls `accion` when `actual` changed. One listener a call; kept for the life of the process.
     virtual void alCambiar(std::function<void()> accion) = 0;
 };

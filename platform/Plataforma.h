@@ -5,6 +5,8 @@
 #include "platform/AnfitrionBandeja.h"
 #include "platform/Apariencia.h"
 #include "platform/Aplicaciones.h"
+#include "platform/AplicacionesEnMarcha.h"
+#include "platform/Archivos.h"
 #include "platform/Bateria.h"
 #include "platform/Contadores.h"
 #include "platform/DialogoCritico.h"
@@ -13,9 +15,12 @@
 #include "platform/InicioAutomatico.h"
 #include "platform/InstanciaUnica.h"
 #include "platform/Lugares.h"
+#include "platform/MemoriaSistema.h"
 #include "platform/Notificaciones.h"
 #include "platform/Papelera.h"
 #include "platform/PoliticaActivacion.h"
+#include "platform/Procesos.h"
+#include "platform/Reinicio.h"
 #include "platform/Reloj.h"
 #include "platform/Suspension.h"
 #include "platform/Termico.h"
@@ -34,6 +39,7 @@ public:
     virtual Preferencias &preferencias() = 0;
     virtual Reloj &reloj() = 0;
     virtual Volumen &volumen() = 0;
+    virtual Archivos &archivos() = 0;
     virtual Papelera &papelera() = 0;
     virtual AccesoArchivos &accesoArchivos() = 0;
     virtual Herramientas &herramientas() = 0;
@@ -50,6 +56,10 @@ public:
     virtual Contadores &contadores() = 0;
     virtual Termico &termico() = 0;
     virtual Bateria &bateria() = 0;
+    virtual MemoriaSistema &memoriaSistema() = 0;
+    virtual Procesos &procesos() = 0;
+    virtual AplicacionesEnMarcha &aplicacionesEnMarcha() = 0;
+    virtual Reinicio &reinicio() = 0;
 };
 
 } // namespace ovanta

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Plataforma.h"
+#include "tests/MemoriaDePrueba.h"
 #include "tests/PreferenciasEnMemoria.h"
 #include "tests/RelojManual.h"
 
@@ -10,6 +11,7 @@
 #include <functional>
 #include <map>
 #include <mutex>
+#include <set>
 #include <unistd.h>
 #include <utility>
 #include <vector>
@@ -39,7 +41,12 @@ struct HerramientasDePrueba final : Herramientas
         }
         return alEjecutar(binario, args);
     }
-    std::optional<std::string> buscarBinario(std::string_view) override { return std::nullopt; }
+    std::set<std::string, std::less<>> instaladas; ///< what `buscarBinario` finds, at /usr/bin
+    std::optional<std::string> buscarBinario(std::string_view nombre) override
+    {
+        if (!instaladas.contains(nombre)) return std::nullopt;
+        return "/usr/bin/" + std::string(nombre);
+    }
 };
 
 /// Plain reads; `alAbrir` may hold one up.
@@ -77,6 +84,17 @@ struct VolumenDePrueba final : Volumen
     {
         ++lecturas;
         listo(espacio);
+    }
+};
+
+struct ArchivosDePrueba final : Archivos
+{
+    std::map<std::string, Fecha> creados; ///< by path; nothing else is there
+
+    std::optional<Fecha> creado(const std::string &ruta) override
+    {
+        const auto hallado = creados.find(ruta);
+        return hallado == creados.end() ? std::nullopt : std::optional(hallado->second);
     }
 };
 
@@ -182,9 +200,11 @@ struct AplicacionesDePrueba final : Aplicaciones
 struct AparienciaDePrueba final : Apariencia
 {
     Estado estado;
+    bool mezcla = false;
     std::vector<std::function<void()>> oyentes;
 
     Estado actual() const override { return estado; }
+    bool transparencia() const override { return mezcla; }
     void alCambiar(std::function<void()> accion) override { oyentes.push_back(std::move(accion)); }
     void fijar(Estado nuevo)
     {
@@ -303,6 +323,7 @@ struct PlataformaDePrueba : Plataforma
     PreferenciasEnMemoria m_preferencias;
     RelojManual m_reloj;
     VolumenDePrueba m_volumen;
+    ArchivosDePrueba m_archivos;
     PapeleraDePrueba m_papelera;
     Papelera *m_otraPapelera = nullptr; ///< takes the place of `m_papelera` where set
     AccesoArchivosDePrueba m_accesoArchivos;
@@ -320,11 +341,16 @@ struct PlataformaDePrueba : Plataforma
     ContadoresDePrueba m_contadores;
     TermicoDePrueba m_termico;
     BateriaDePrueba m_bateria;
+    MemoriaDePrueba m_memoriaSistema;
+    ProcesosDePrueba m_procesos;
+    AplicacionesEnMarchaDePrueba m_enMarcha;
+    ReinicioDePrueba m_reinicio;
 
     const Lugares &lugares() const override { return m_lugares; }
     Preferencias &preferencias() override { return m_preferencias; }
     Reloj &reloj() override { return m_reloj; }
     Volumen &volumen() override { return m_volumen; }
+    Archivos &archivos() override { return m_archivos; }
     Papelera &papelera() override { return m_otraPapelera ? *m_otraPapelera : m_papelera; }
     AccesoArchivos &accesoArchivos() override { return m_accesoArchivos; }
     Herramientas &herramientas() override { return m_herramientas; }
@@ -341,6 +367,10 @@ struct PlataformaDePrueba : Plataforma
     Contadores &contadores() override { return m_contadores; }
     Termico &termico() override { return m_termico; }
     Bateria &bateria() override { return m_bateria; }
+    MemoriaSistema &memoriaSistema() override { return m_memoriaSistema; }
+    Procesos &procesos() override { return m_procesos; }
+    AplicacionesEnMarcha &aplicacionesEnMarcha() override { return m_enMarcha; }
+    Reinicio &reinicio() override { return m_reinicio; }
 };
 
 } // namespace ovanta::pruebas

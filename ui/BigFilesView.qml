@@ -66,12 +66,13 @@ Item {
             Layout.fillWidth: true
         }
     }
-    ConfirmacionMover {
+    Confirmacion {
         visible: estado.confirmando
         titulo: estado.tituloConfirmacion
         mensaje: "Todo va a la Papelera. Las carpetas de dependencias se regeneran con npm install, pip install o cargo build."
-        textoMover: estado.textoConfirmar
-        variante: Boton.Destructivo
+        simbolo: "trash"
+        accion: estado.textoConfirmar
+        destructiva: true
         onConfirmada: estado.confirmar()
         onClosed: estado.cancelar()
     }

@@ -61,11 +61,13 @@ Item {
             Layout.fillWidth: true
         }
     }
-    ConfirmacionMover {
+    Confirmacion {
         visible: estado.confirmando
         titulo: estado.tituloConfirmacion
         mensaje: "Va a la Papelera, no se elimina. De cada grupo se conserva al menos una copia. Si son clones APFS, el espacio físico liberado puede ser menor que el tamaño lógico mostrado."
-        variante: Boton.Destructivo
+        simbolo: "trash"
+        accion: "Mover a la Papelera"
+        destructiva: true
         onConfirmada: estado.confirmar()
         onClosed: estado.cancelar()
     }

@@ -17,10 +17,12 @@ Item {
         total: raiz.estado.totalSimulado
         onClosed: raiz.estado.cerrarPresentacion()
     }
-    ConfirmacionMover {
+    Confirmacion {
         visible: raiz.estado.confirmando
         titulo: raiz.estado.tituloConfirmacion
         mensaje: "Nada se elimina: todo va a la Papelera y puedes recuperarlo desde Finder. El espacio se libera al vaciarla."
+        simbolo: "trash"
+        accion: "Mover a la Papelera"
         onConfirmada: raiz.estado.confirmar()
         onClosed: raiz.estado.cancelar()
     }

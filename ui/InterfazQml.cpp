@@ -2,14 +2,20 @@
 
 #include "ui/Ovanta.h"
 
-#include <QQmlApplicationEngine>
+#include <QQmlComponent>
+#include <QQmlEngine>
 #include <QQuickWindow>
 
 namespace ovanta {
 
-InterfazQml::InterfazQml(OvantaApp &app) : m_aspecto(app.plataforma().apariencia())
+InterfazQml::InterfazQml(OvantaApp &app)
+    : m_aspecto(app.plataforma().apariencia()), m_panel(app.plataforma().apariencia())
 {
-    Ovanta::usar(&app, &m_aspecto);
+    Ovanta::usar(&app, &m_aspecto, this);
+    connect(&m_panel, &PanelQml::cerrado, this, [this](bool porFoco) {
+        soltarMotor();
+        Q_EMIT panelCerrado(porFoco);
+    });
 }
 
 InterfazQml::~InterfazQml() = default;
@@ -27,11 +33,12 @@ bool InterfazQml::enfocarVentanaExistente()
 void InterfazQml::abrirVentana()
 {
     if (enfocarVentanaExistente()) return;
-    m_motor = std::make_unique<QQmlApplicationEngine>();
-    m_motor->addImportPath(QStringLiteral("qrc:/qt/qml"));
-    m_motor->load(QUrl(QStringLiteral("qrc:/qt/qml/Ovanta/VentanaPrincipal.qml")));
-    if (m_motor->rootObjects().isEmpty()) return;
-    m_ventana = qobject_cast<QQuickWindow *>(m_motor->rootObjects().constFirst());
+    QQmlComponent componente(&motor(), QUrl(QStringLiteral("qrc:/qt/qml/Ovanta/VentanaPrincipal.qml")));
+    m_ventana.reset(qobject_cast<QQuickWindow *>(componente.create()));
+    if (!m_ventana) {
+        qCritical("%s", qPrintable(componente.errorString()));
+        return soltarMotor();
+    }
     m_ventana->installEventFilter(this);
     Q_EMIT ventanaAbierta();
 }
@@ -41,9 +48,20 @@ void InterfazQml::minimizarAlCerrar(bool si)
     m_minimizar = si;
 }
 
+void InterfazQml::abrirPanel(const QRect &icono)
+{
+    m_panel.abrir(motor(), icono);
+    soltarMotor();
+}
+
+void InterfazQml::cerrarPanel()
+{
+    m_panel.cerrar();
+}
+
 bool InterfazQml::eventFilter(QObject *objeto, QEvent *evento)
 {
-    if (objeto != m_ventana || evento->type() != QEvent::Close) return false;
+    if (!m_ventana || objeto != m_ventana.get() || evento->type() != QEvent::Close) return false;
     if (m_minimizar) {
         evento->ignore();
         m_ventana->showMinimized();
@@ -55,10 +73,25 @@ bool InterfazQml::eventFilter(QObject *objeto, QEvent *evento)
 
 void InterfazQml::cerrar()
 {
-    m_ventana = nullptr;
     // The window is still inside its own close event: let it finish before its scene goes.
-    m_motor.release()->deleteLater();
+    m_ventana.release()->deleteLater();
+    soltarMotor();
     Q_EMIT ventanaCerrada();
+}
+
+QQmlEngine &InterfazQml::motor()
+{
+    if (!m_motor) {
+        m_motor = std::make_unique<QQmlEngine>();
+        m_motor->addImportPath(QStringLiteral("qrc:/qt/qml"));
+    }
+    return *m_motor;
+}
+
+/// Without a window the engine goes, right after the last one that is on its way out.
+void InterfazQml::soltarMotor()
+{
+    if (m_motor && !m_ventana && !m_panel.abierto()) m_motor.release()->deleteLater();
 }
 
 } // namespace ovanta

@@ -32,6 +32,8 @@ QString vistaDe(Seccion seccion)
         return QStringLiteral("DuplicatesView");
     case Seccion::pesados:
         return QStringLiteral("BigFilesView");
+    case Seccion::memoria:
+        return QStringLiteral("MemoryView");
     case Seccion::historial:
         return QStringLiteral("HistorialView");
     case Seccion::ajustes:
@@ -106,8 +108,8 @@ void MainViewEstado::seleccionar(int fila)
 void MainViewEstado::analizarDeNuevo()
 {
     m_app.disco().medir();
+    m_app.sims().cargar();
     m_app.reglas().medir();
-    m_app.scanner().analizar();
 }
 
 } // namespace ovanta

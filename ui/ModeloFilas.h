@@ -34,6 +34,17 @@ public:
         }
     }
 
+    /// The same for a short list whose rows change places: a row that stays keeps what stands for it on
+    /// screen, its focus too, wherever it goes.
+    void reordenar(std::vector<Fila> filas)
+    {
+        for (int i = rowCount() - 1; i >= 0; --i)
+            if (!contiene(filas, m_filas[static_cast<std::size_t>(i)])) quitar(i);
+        for (int i = 0; i < static_cast<int>(filas.size()); ++i)
+            traer(i, filas[static_cast<std::size_t>(i)]);
+        publicar(std::move(filas));
+    }
+
     int rowCount(const QModelIndex &padre = {}) const override
     {
         return padre.isValid() ? 0 : static_cast<int>(m_filas.size());
@@ -56,6 +67,38 @@ public:
     }
 
 private:
+    static bool contiene(const std::vector<Fila> &filas, const Fila &fila)
+    {
+        return std::any_of(filas.begin(), filas.end(),
+                           [&](const Fila &una) { return una.clave == fila.clave; });
+    }
+
+    void quitar(int lugar)
+    {
+        beginRemoveRows({}, lugar, lugar);
+        m_filas.erase(m_filas.begin() + lugar);
+        endRemoveRows();
+    }
+
+    /// Makes sure that the row of this key stands at `lugar`; the rows before it are in their places.
+    void traer(int lugar, const Fila &fila)
+    {
+        const auto desde = m_filas.begin() + lugar;
+        const auto hallada =
+            std::find_if(desde, m_filas.end(), [&](const Fila &una) { return una.clave == fila.clave; });
+        if (hallada == desde && hallada != m_filas.end()) return;
+        if (hallada == m_filas.end()) {
+            beginInsertRows({}, lugar, lugar);
+            m_filas.insert(desde, fila);
+            endInsertRows();
+            return;
+        }
+        const int de = static_cast<int>(hallada - m_filas.begin());
+        beginMoveRows({}, de, de, {}, lugar);
+        std::rotate(desde, hallada, hallada + 1);
+        endMoveRows();
+    }
+
     bool mismasClaves(const std::vector<Fila> &otras) const
     {
         return std::equal(m_filas.begin(), m_filas.end(), otras.begin(), otras.end(),

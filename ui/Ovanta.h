@@ -11,6 +11,8 @@ class QQmlEngine;
 
 namespace ovanta {
 
+class Interfaz;
+
 struct NavegacionAplicacionQml
 {
     Q_GADGET
@@ -29,10 +31,11 @@ class Ovanta : public QObject
     Q_PROPERTY(ovanta::NavegacionAplicacion *navegacion READ navegacion CONSTANT)
     Q_PROPERTY(ovanta::Aspecto *aspecto READ aspecto CONSTANT)
 public:
-    /// The application whose stores are shown and the look they are shown in; to be called before an
-    /// engine exists. Both must outlive the engine.
-    static void usar(OvantaApp *app, Aspecto *aspecto);
+    /// The application whose stores are shown, the look they are shown in and who opens windows; to be
+    /// called before an engine exists. All must outlive the engine.
+    static void usar(OvantaApp *app, Aspecto *aspecto, Interfaz *interfaz);
     static OvantaApp &app();
+    static Interfaz &interfaz();
     static Ovanta *create(QQmlEngine *, QJSEngine *);
 
     NavegacionAplicacion *navegacion() const { return &app().navegacion(); }

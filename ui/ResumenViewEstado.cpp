@@ -3,6 +3,7 @@
 #include "core/qt/Formato.h"
 #include "core/qt/Texto.h"
 #include "ui/AsegurarReglas.h"
+#include "ui/AsegurarSimuladores.h"
 #include "ui/AspectoNivel.h"
 #include "ui/Ovanta.h"
 
@@ -21,6 +22,9 @@ ResumenViewEstado::ResumenViewEstado(QObject *parent) : QObject(parent), m_app(O
     connect(&m_app.scanner(), &Scanner::duplicadosChanged, this, &ResumenViewEstado::actualizar);
     connect(&m_app.scanner(), &Scanner::hallazgosChanged, this, &ResumenViewEstado::actualizar);
     connect(&m_app.scanner(), &Scanner::ajustesChanged, this, &ResumenViewEstado::actualizar);
+    connect(&m_app.mem(), &MemoryMonitor::lecturaChanged, this, &ResumenViewEstado::actualizar);
+    connect(&m_app.sims(), &SimulatorStore::simuladoresChanged, this, &ResumenViewEstado::actualizar);
+    connect(&m_app.sims(), &SimulatorStore::estadoChanged, this, &ResumenViewEstado::actualizar);
     actualizar();
 }
 
@@ -96,12 +100,15 @@ QString ResumenViewEstado::textoAnalizar() const
 void ResumenViewEstado::alMostrar()
 {
     asegurarReglas(m_app.reglas());
+    asegurarSimuladores(m_app.sims());
 }
 
 void ResumenViewEstado::analizarTodo()
 {
     m_app.disco().medir();
+    m_app.mem().medir();
     m_app.reglas().medir();
+    m_app.sims().cargar();
     m_app.scanner().analizar();
 }
 

@@ -3,6 +3,7 @@
 #include "core/Tamano.h"
 #include "core/qt/Formato.h"
 #include "core/qt/Texto.h"
+#include "ui/AspectoMemoria.h"
 #include "ui/Riesgo.h"
 
 #include <cmath>
@@ -83,19 +84,12 @@ TarjetaResumen deSimuladores(const EntradasResumen &e)
 
 TarjetaResumen deMemoria(const EntradasResumen &e)
 {
-    using Memoria = EntradasResumen::Memoria;
-    const bool normal = e.memoria == Memoria::normal;
-    const bool tension = e.memoria == Memoria::tension;
-    auto t = tarjeta(Seccion::memoria, QStringLiteral("Memoria"), QStringLiteral("memorychip"),
-                     normal    ? Tinte::Verde
-                     : tension ? Tinte::Naranja
-                               : Tinte::Rojo,
+    const AspectoMemoria aspecto = aspectoDe(e.memoria);
+    auto t = tarjeta(Seccion::memoria, QStringLiteral("Memoria"), QStringLiteral("memorychip"), aspecto.tinte,
                      "manual");
     t.cifra = QString::number(std::lround(e.presion * 100)) + QStringLiteral(" %");
-    t.detalle = (normal    ? QStringLiteral("Presión normal")
-                 : tension ? QStringLiteral("Presión alta")
-                           : QStringLiteral("Presión crítica")) +
-                QStringLiteral(" · swap ") + Formato::delUsuario().bytes(e.swapUsado, EstiloBytes::memoria);
+    t.detalle = aspecto.texto + QStringLiteral(" · swap ") +
+                Formato::delUsuario().bytes(e.swapUsado, EstiloBytes::memoria);
     return t;
 }
 
@@ -126,6 +120,15 @@ EntradasResumen leerEntradas(OvantaApp &app)
     for (const ArchivoHallado &descarga : *scanner.descargasViejas())
         entradas.bytesDescargas = sumar(entradas.bytesDescargas, descarga.bytes);
     entradas.diasDescargas = scanner.diasDescargas();
+    entradas.memoria = app.mem().estado();
+    entradas.presion = app.mem().presion();
+    entradas.swapUsado = app.mem().swapUsado();
+    const std::vector<Simulador> nuevos = app.sims().nuevos();
+    entradas.cargandoSimuladores = app.sims().cargando() || app.sims().midiendoTamanos();
+    entradas.simuladores = app.sims().simuladores().size();
+    entradas.simuladoresNuevos = nuevos.size();
+    entradas.bytesNuevos = SimulatorStore::sumaDeBytes(nuevos);
+    entradas.diasNuevo = app.sims().diasNuevo();
     return entradas;
 }
 

@@ -31,7 +31,7 @@ struct EntradasResumen
     std::uint64_t bytesDescargas = 0;
     int diasDescargas = 90;
 
-    enum class Memoria { normal, tension, critico } memoria = Memoria::normal;
+    EstadoMemoria memoria = EstadoMemoria::normal;
     double presion = 0;
     std::uint64_t swapUsado = 0;
 };

@@ -13,8 +13,9 @@ constexpr int hilosPorReserva = 8;
 /// As often may a disk hang before the next analysis has to wait.
 constexpr int hilosQuePuedenColgarse = 64;
 
-/// An idle thread keeps a stack and a heap arena: let it go soon, the program rests most of the time.
-constexpr int caducidadMs = 5000;
+/// A thread that is done goes at once: waiting for more it would keep a stack and a heap arena, and wake
+/// the processor once more to end. The program rests most of the time.
+constexpr int caducidadMs = 0;
 
 struct Reserva
 {

@@ -1,5 +1,6 @@
 #include "platform/linux/AparienciaLinux.h"
 
+#include "platform/linux/Compositor.h"
 #include "platform/linux/LlamadaDBus.h"
 
 namespace ovanta {
@@ -50,6 +51,11 @@ AparienciaLinux::AparienciaLinux(const QDBusConnection &sesion) : m_bus(sesion),
     connect(&m_vigia, &VigiaDeServicio::cambiado, this, &AparienciaLinux::preguntarTodo);
     escucharDBus(m_bus, rutaPortal, interfazAjustes, QStringLiteral("SettingChanged"), this,
                  SLOT(alCambiarAjuste(QString, QString, QDBusVariant)));
+}
+
+bool AparienciaLinux::transparencia() const
+{
+    return hayCompositor();
 }
 
 void AparienciaLinux::preguntarTodo()

@@ -18,6 +18,7 @@ public:
     explicit AparienciaLinux(const QDBusConnection &sesion);
 
     Estado actual() const override { return m_estado; }
+    bool transparencia() const override;
     void alCambiar(std::function<void()> accion) override { m_oyentes.agregar(std::move(accion)); }
 
 private Q_SLOTS:

@@ -1,6 +1,5 @@
 #include "platform/linux/ContadoresLinux.h"
 
-#include "platform/linux/EntradasDeCarpeta.h"
 #include "platform/linux/InterpretarContadores.h"
 
 #include <array>
@@ -10,11 +9,8 @@ namespace ovanta {
 
 ContadoresLinux::ContadoresLinux(std::string raiz)
     : m_raiz(std::move(raiz)), m_stat(m_raiz + "/proc/stat"), m_netDev(m_raiz + "/proc/net/dev"),
-      m_meminfo(m_raiz + "/proc/meminfo")
+      m_meminfo(m_raiz)
 {
-    const std::string bloques = m_raiz + "/sys/block";
-    for (const std::string &nombre : entradasDeCarpeta(bloques, "zram"))
-        m_zram.emplace_back(bloques + "/" + nombre + "/mm_stat");
 }
 
 std::optional<Contadores::Ticks> ContadoresLinux::procesador()
@@ -39,13 +35,12 @@ bool ContadoresLinux::tieneDispositivo(std::string_view interfaz) const
 
 std::optional<Contadores::Memoria> ContadoresLinux::memoria()
 {
-    std::optional<Memoria> memoria = interpretarMeminfo(m_meminfo.leerEntero(m_lugar));
-    if (!memoria) return std::nullopt;
-    for (LecturaRepetida &zram : m_zram) {
-        std::array<char, 256> lugar;
-        memoria->comprimida += interpretarZram(zram.leer(lugar));
-    }
-    return memoria;
+    const std::optional<LectorMeminfo::Datos> datos = m_meminfo.leer();
+    if (!datos) return std::nullopt;
+    return Memoria{.apps = datos->meminfo.apps(),
+                   .wired = datos->meminfo.wired(),
+                   .comprimida = datos->comprimida,
+                   .fisica = datos->meminfo.memTotal};
 }
 
 } // namespace ovanta

@@ -1,9 +1,8 @@
 #pragma once
 
 #include "platform/Contadores.h"
+#include "platform/linux/LectorMeminfo.h"
 #include "platform/linux/LecturaRepetida.h"
-
-#include <vector>
 
 namespace ovanta {
 
@@ -25,8 +24,7 @@ private:
     std::string m_raiz;
     LecturaRepetida m_stat;
     LecturaRepetida m_netDev;
-    LecturaRepetida m_meminfo;
-    std::vector<LecturaRepetida> m_zram;
+    LectorMeminfo m_meminfo;
     std::string m_lugar; ///< kept from reading to reading
 };
 

@@ -20,11 +20,4 @@ Contadores::Red interpretarNetDev(std::string_view texto,
 /// Whether the name is one that the system gives to a wired, wireless or mobile network card.
 bool nombreDeTarjeta(std::string_view interfaz);
 
-/// /proc/meminfo: anonymous and shared memory are `apps`; what the kernel holds and what is locked is
-/// `wired`; `comprimida` is zswap's store only. Nothing where the size of the memory is not told.
-std::optional<Contadores::Memoria> interpretarMeminfo(std::string_view texto);
-
-/// The memory that one zram device takes, of its "mm_stat"; 0 where that is not told.
-std::uint64_t interpretarZram(std::string_view texto);
-
 } // namespace ovanta

@@ -35,6 +35,12 @@ InicioAutomaticoLinux::Lugares lugaresDeInicio(const EntornoLugares &entorno, co
                                               resolverEnlaces("/proc/self/exe").value_or(""));
 }
 
+std::string escritorioDelEntorno()
+{
+    const char *escritorio = std::getenv("XDG_CURRENT_DESKTOP");
+    return escritorio ? escritorio : "";
+}
+
 bool iniciadoPorLaSesion()
 {
     return laSesionInicio(leerProc("self/cgroup"), leerProc(std::to_string(::getppid()) + "/comm"));
@@ -51,7 +57,8 @@ PlataformaLinux::PlataformaLinux()
       m_herramientas(m_lugares.hogar), m_notificaciones(m_sesion), m_suspension(QDBusConnection::systemBus()),
       m_gestorArchivos(m_sesion), m_apariencia(m_sesion), m_anfitrionBandeja(m_sesion),
       m_instanciaUnica({m_sesion, carpetaDeSesion(m_entorno, m_lugares.hogar), iniciadoPorLaSesion()}),
-      m_inicioAutomatico(lugaresDeInicio(m_entorno, m_lugares.hogar))
+      m_inicioAutomatico(lugaresDeInicio(m_entorno, m_lugares.hogar)),
+      m_aplicacionesEnMarcha(m_fotografo, escritorioDelEntorno())
 {
 }
 

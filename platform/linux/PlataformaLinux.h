@@ -5,7 +5,9 @@
 #include "platform/linux/AccesoArchivosLinux.h"
 #include "platform/linux/AnfitrionBandejaLinux.h"
 #include "platform/linux/AparienciaLinux.h"
+#include "platform/linux/AplicacionesEnMarchaLinux.h"
 #include "platform/linux/AplicacionesLinux.h"
+#include "platform/linux/ArchivosLinux.h"
 #include "platform/linux/BateriaLinux.h"
 #include "platform/linux/ContadoresLinux.h"
 #include "platform/linux/DialogoCriticoLinux.h"
@@ -14,9 +16,12 @@
 #include "platform/linux/InicioAutomaticoLinux.h"
 #include "platform/linux/InstanciaUnicaLinux.h"
 #include "platform/linux/LugaresLinux.h"
+#include "platform/linux/MemoriaLinux.h"
 #include "platform/linux/NotificacionesLinux.h"
 #include "platform/linux/PapeleraLinux.h"
 #include "platform/linux/PoliticaActivacionLinux.h"
+#include "platform/linux/ProcesosLinux.h"
+#include "platform/linux/ReinicioLinux.h"
 #include "platform/linux/RelojLinux.h"
 #include "platform/linux/SuspensionLinux.h"
 #include "platform/linux/TermicoLinux.h"
@@ -35,6 +40,7 @@ public:
     Preferencias &preferencias() override { return m_preferencias; }
     Reloj &reloj() override { return m_reloj; }
     Volumen &volumen() override { return m_volumen; }
+    Archivos &archivos() override { return m_archivos; }
     Papelera &papelera() override { return m_papelera; }
     AccesoArchivos &accesoArchivos() override { return m_accesoArchivos; }
     Herramientas &herramientas() override { return m_herramientas; }
@@ -51,6 +57,10 @@ public:
     Contadores &contadores() override { return m_contadores; }
     Termico &termico() override { return m_termico; }
     Bateria &bateria() override { return m_bateria; }
+    MemoriaSistema &memoriaSistema() override { return m_memoriaSistema; }
+    Procesos &procesos() override { return m_procesos; }
+    AplicacionesEnMarcha &aplicacionesEnMarcha() override { return m_aplicacionesEnMarcha; }
+    Reinicio &reinicio() override { return m_reinicio; }
 
 private:
     EntornoLugares m_entorno;
@@ -59,6 +69,7 @@ private:
     PreferenciasQt m_preferencias;
     RelojLinux m_reloj;
     VolumenLinux m_volumen;
+    ArchivosLinux m_archivos;
     PapeleraLinux m_papelera;
     AccesoArchivosLinux m_accesoArchivos;
     HerramientasLinux m_herramientas;
@@ -75,6 +86,11 @@ private:
     ContadoresLinux m_contadores;
     TermicoLinux m_termico;
     BateriaLinux m_bateria{QDBusConnection::systemBus()};
+    MemoriaLinux m_memoriaSistema;
+    std::shared_ptr<FotografoProcesos> m_fotografo = FotografoProcesos::deEsteEquipo();
+    ProcesosLinux m_procesos{m_fotografo};
+    AplicacionesEnMarchaLinux m_aplicacionesEnMarcha;
+    ReinicioLinux m_reinicio = ReinicioLinux::delEntorno();
 };
 
 } // namespace ovanta

@@ -1,25 +1,16 @@
 #include "platform/linux/RelojLinux.h"
 
-#include <QTimer>
+#include "core/qt/Temporizador.h"
 
 namespace ovanta {
 
 namespace {
 
-class TemporizadorQt final : public Reloj::Temporizador
+struct TemporizadorQt final : Reloj::Temporizador
 {
-public:
-    TemporizadorQt(std::chrono::milliseconds periodo, Qt::TimerType tipo, bool unaVez,
-                   std::function<void()> accion)
-    {
-        m_timer.setTimerType(tipo);
-        m_timer.setSingleShot(unaVez);
-        m_timer.callOnTimeout(std::move(accion));
-        m_timer.start(periodo);
-    }
+    explicit TemporizadorQt(std::unique_ptr<QTimer> corriendo) : timer(std::move(corriendo)) {}
 
-private:
-    QTimer m_timer;
+    std::unique_ptr<QTimer> timer;
 };
 
 } // namespace
@@ -41,15 +32,16 @@ std::unique_ptr<Reloj::Temporizador> RelojLinux::cada(std::chrono::milliseconds 
                                                       std::chrono::milliseconds tolerancia,
                                                       std::function<void()> accion)
 {
-    return std::make_unique<TemporizadorQt>(periodo, tipoDeTemporizador(periodo, tolerancia), false,
-                                            std::move(accion));
+    return std::make_unique<TemporizadorQt>(
+        empezarTemporizador(periodo, tipoDeTemporizador(periodo, tolerancia), false, std::move(accion)));
 }
 
 std::unique_ptr<Reloj::Temporizador> RelojLinux::unaVez(std::chrono::milliseconds espera,
                                                         std::function<void()> accion)
 {
     // A coarse timer may also fire early.
-    return std::make_unique<TemporizadorQt>(espera, Qt::PreciseTimer, true, std::move(accion));
+    return std::make_unique<TemporizadorQt>(
+        empezarTemporizador(espera, Qt::PreciseTimer, true, std::move(accion)));
 }
 
 } // namespace ovanta

@@ -4,6 +4,7 @@
 #include "platform/simulada/DescargasSinteticas.h"
 #include "platform/simulada/FotosSinteticas.h"
 #include "platform/simulada/MueblesMac.h"
+#include "platform/simulada/SimuladoresSinteticos.h"
 
 #include <cerrno>
 #include <cstdlib>
@@ -33,6 +34,7 @@ void CasaSintetica::amueblar(const std::vector<std::string> &rutasDeReglas, Fech
 {
     ponerMuebles(m_hogar, ahora);
     ponerDescargas(m_hogar, ahora);
+    ponerSimuladores(m_hogar, ahora);
     ponerFotos(m_hogar, ahora);
     llenarCaches(m_hogar, rutasDeReglas, ahora);
 }

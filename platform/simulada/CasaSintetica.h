@@ -20,7 +20,7 @@ public:
     /// Absolute, free of links, no trailing slash.
     const std::string &hogar() const { return m_hogar; }
 
-    /// Fills the home as that of a developer who takes photographs, as seen at `ahora`: about 200 MB
+    /// Fills the home as that of a developer who takes photographs, as seen at `ahora`: less than 300 MB
     /// of disk usage, the same at every call. `rutasDeReglas` are the paths of the catalogue, with
     /// "~" for the home; most of them get some contents, a few stay empty or absent.
     void amueblar(const std::vector<std::string> &rutasDeReglas, Fecha ahora) const;

@@ -10,7 +10,7 @@
 namespace ovanta {
 
 /// Tools by script. `du` and `find` only read, so they run for real on the synthetic home. Every
-/// other tool is absent until it is given a script.
+/// other tool is absent until it is given a script; the simulated Mac gives `xcrun` its own.
 class HerramientasSimuladas final : public Herramientas
 {
 public:

@@ -3,6 +3,7 @@
 #include "core/Catalogo.h"
 #include "core/LeerArchivo.h"
 #include "core/Recursos.h"
+#include "platform/simulada/SimuladoresSinteticos.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -42,12 +43,13 @@ PlataformaSimulada::PlataformaSimulada(const Opciones &opciones)
                 .catalogo = opciones.recursos + "/macos/rules.json",
                 .recursos = opciones.recursos},
       m_preferencias(m_casa.hogar() + "/Library/Preferences/com.belmora.Ovanta.ini", m_registro),
-      m_papelera(m_casa.hogar(), m_reloj, m_registro), m_herramientas(m_registro),
-      m_notificaciones(m_registro), m_dialogo(m_registro), m_gestor(m_papelera.carpeta(), m_registro),
-      m_inicio(m_registro), m_politica(m_registro)
+      m_reloj(opciones.relojDetenido), m_papelera(m_casa.hogar(), m_reloj, m_registro),
+      m_herramientas(m_registro), m_notificaciones(m_registro), m_dialogo(m_registro),
+      m_gestor(m_papelera.carpeta(), m_registro), m_inicio(m_registro), m_politica(m_registro)
 {
-    if (opciones.relojDetenido) m_reloj.detener(*opciones.relojDetenido);
+    m_herramientas.programar("osascript", [](const auto &) { return std::string{}; });
     m_apariencia.fijar(opciones.apariencia);
+    m_herramientas.programar("xcrun", responderXcrun);
     m_casa.amueblar(rutasDelCatalogo(m_lugares.catalogo), m_reloj.ahora());
 }
 

@@ -3,15 +3,19 @@
 #include "platform/Plataforma.h"
 #include "platform/simulada/AccesoArchivosSimulado.h"
 #include "platform/simulada/AplicacionesSimuladas.h"
+#include "platform/simulada/ArchivosSimulados.h"
 #include "platform/simulada/CasaSintetica.h"
 #include "platform/simulada/EscritorioSimulado.h"
 #include "platform/simulada/HerramientasSimuladas.h"
 #include "platform/simulada/InicioSimulado.h"
+#include "platform/simulada/MemoriaSimulada.h"
 #include "platform/simulada/PapeleraSimulada.h"
 #include "platform/simulada/PreferenciasRegistradas.h"
 #include "platform/simulada/RegistroMutaciones.h"
+#include "platform/simulada/ReinicioSimulado.h"
 #include "platform/simulada/RelojSimulado.h"
 #include "platform/simulada/SensoresSimulados.h"
+#include "platform/simulada/SesionSimulada.h"
 #include "platform/simulada/VolumenSimulado.h"
 
 namespace ovanta {
@@ -47,6 +51,7 @@ public:
     PreferenciasRegistradas &preferencias() override { return m_preferencias; }
     RelojSimulado &reloj() override { return m_reloj; }
     VolumenSimulado &volumen() override { return m_volumen; }
+    ArchivosSimulados &archivos() override { return m_archivos; }
     PapeleraSimulada &papelera() override { return m_papelera; }
     AccesoArchivosSimulado &accesoArchivos() override { return m_accesoArchivos; }
     HerramientasSimuladas &herramientas() override { return m_herramientas; }
@@ -63,6 +68,10 @@ public:
     ContadoresSimulados &contadores() override { return m_contadores; }
     TermicoSimulado &termico() override { return m_termico; }
     BateriaSimulada &bateria() override { return m_bateria; }
+    MemoriaSimulada &memoriaSistema() override { return m_memoria; }
+    SesionSimulada &procesos() override { return m_sesion; }
+    SesionSimulada &aplicacionesEnMarcha() override { return m_sesion; }
+    ReinicioSimulado &reinicio() override { return m_reinicio; }
 
 private:
     RegistroMutaciones m_registro;
@@ -71,6 +80,7 @@ private:
     PreferenciasRegistradas m_preferencias;
     RelojSimulado m_reloj;
     VolumenSimulado m_volumen;
+    ArchivosSimulados m_archivos;
     PapeleraSimulada m_papelera;
     AccesoArchivosSimulado m_accesoArchivos;
     HerramientasSimuladas m_herramientas;
@@ -87,6 +97,9 @@ private:
     ContadoresSimulados m_contadores{m_reloj};
     TermicoSimulado m_termico;
     BateriaSimulada m_bateria{m_reloj};
+    MemoriaSimulada m_memoria{m_reloj};
+    SesionSimulada m_sesion{m_reloj, m_registro};
+    ReinicioSimulado m_reinicio{m_herramientas};
 };
 
 } // namespace ovanta

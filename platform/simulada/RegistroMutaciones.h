@@ -17,12 +17,13 @@ struct Mutacion
         dialogo,
         archivoMostrado,
         inicio,
-        politica
+        politica,
+        aplicacion,
     };
 
     Clase clase;
-    std::string objeto;  ///< path, tool, key or notice that it was about
-    std::string detalle; ///< where it went, arguments or text
+    std::string objeto;  ///< path, tool, key, notice or application that it was about
+    std::string detalle; ///< where it went, arguments, text or order
 
     bool operator==(const Mutacion &) const = default;
 };

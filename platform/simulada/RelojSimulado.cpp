@@ -1,26 +1,18 @@
 #include "platform/simulada/RelojSimulado.h"
 
-#include <QTimer>
+#include "core/qt/Temporizador.h"
+
 #include <utility>
 
 namespace ovanta {
 
 namespace {
 
-class TemporizadorQt final : public Reloj::Temporizador
+struct TemporizadorQt final : Reloj::Temporizador
 {
-public:
-    TemporizadorQt(std::chrono::milliseconds periodo, Qt::TimerType clase, bool unaVez,
-                   std::function<void()> accion)
-    {
-        m_temporizador.setTimerType(clase);
-        m_temporizador.setSingleShot(unaVez);
-        m_temporizador.callOnTimeout(std::move(accion));
-        m_temporizador.start(periodo);
-    }
+    explicit TemporizadorQt(std::unique_ptr<QTimer> corriendo) : timer(std::move(corriendo)) {}
 
-private:
-    QTimer m_temporizador;
+    std::unique_ptr<QTimer> timer;
 };
 
 } // namespace
@@ -39,15 +31,16 @@ std::unique_ptr<Reloj::Temporizador> RelojSimulado::cada(std::chrono::millisecon
     if (m_detenido) return m_manual.cada(periodo, tolerancia, std::move(accion));
     // Qt lets a coarse timer be up to 5 % off.
     const bool holgado = tolerancia * 20 >= periodo;
-    return std::make_unique<TemporizadorQt>(periodo, holgado ? Qt::CoarseTimer : Qt::PreciseTimer, false,
-                                            std::move(accion));
+    return std::make_unique<TemporizadorQt>(
+        empezarTemporizador(periodo, holgado ? Qt::CoarseTimer : Qt::PreciseTimer, false, std::move(accion)));
 }
 
 std::unique_ptr<Reloj::Temporizador> RelojSimulado::unaVez(std::chrono::milliseconds espera,
                                                            std::function<void()> accion)
 {
     if (m_detenido) return m_manual.unaVez(espera, std::move(accion));
-    return std::make_unique<TemporizadorQt>(espera, Qt::PreciseTimer, true, std::move(accion));
+    return std::make_unique<TemporizadorQt>(
+        empezarTemporizador(espera, Qt::PreciseTimer, true, std::move(accion)));
 }
 
 void RelojSimulado::detener(Fecha fecha)

@@ -3,6 +3,8 @@
 #include "platform/Reloj.h"
 #include "platform/simulada/RelojManual.h"
 
+#include <optional>
+
 namespace ovanta {
 
 /// A clock that can be moved. It starts as the machine's own clock; after `detener` it stands still
@@ -10,6 +12,13 @@ namespace ovanta {
 class RelojSimulado final : public Reloj
 {
 public:
+    RelojSimulado() = default;
+    /// Where `detenido` is set the clock stands still at that moment from the first.
+    explicit RelojSimulado(std::optional<Fecha> detenido)
+    {
+        if (detenido) detener(*detenido);
+    }
+
     Fecha ahora() const override;
     std::unique_ptr<Temporizador> cada(std::chrono::milliseconds periodo,
                                        std::chrono::milliseconds tolerancia,

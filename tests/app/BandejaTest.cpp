@@ -51,7 +51,8 @@ TEST(Bandeja, everyEntryOfTheMenuTellsWhatIsAskedFor)
     {
         const char16_t *texto;
         void (Bandeja::*senal)();
-    } casos[] = {{u"Abrir Ovanta", &Bandeja::abrirPedido},
+    } casos[] = {{u"Mostrar panel", &Bandeja::panelPedido},
+                 {u"Abrir Ovanta", &Bandeja::abrirPedido},
                  {u"Actualizar ahora", &Bandeja::actualizarPedido},
                  {u"Salir de Ovanta", &Bandeja::salirPedido}};
     for (const auto &caso : casos) {

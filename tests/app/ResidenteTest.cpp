@@ -41,6 +41,29 @@ TEST_F(ResidenteTest, aWindowLibraryThatCannotBeLoadedIsToldInWords)
     EXPECT_NE(plataforma.m_dialogo.mostrados[0].cuerpo.find("/no/existe"), std::string::npos);
 }
 
+TEST_F(ResidenteTest, thePanelNeedsTheWindowLibraryToo)
+{
+    plataforma.m_instancia.silenciosa = true;
+    OvantaApp app(plataforma);
+    Residente residente(app, sinBiblioteca);
+    residente.empezar();
+    Q_EMIT residente.bandeja().pulsada();
+    EXPECT_EQ(plataforma.m_dialogo.mostrados.size(), 1U);
+    Q_EMIT residente.bandeja().panelPedido();
+    EXPECT_EQ(plataforma.m_dialogo.mostrados.size(), 2U);
+}
+
+TEST_F(ResidenteTest, updatingFromTheMenuMeasuresTheDiskAndListsTheSimulators)
+{
+    OvantaApp app(plataforma);
+    Residente residente(app, sinBiblioteca);
+    const int lecturas = plataforma.m_volumen.lecturas;
+    Q_EMIT residente.bandeja().actualizarPedido();
+    EXPECT_EQ(plataforma.m_volumen.lecturas, lecturas + 1);
+    EXPECT_TRUE(app.sims().cargando());
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !app.sims().cargando(); }));
+}
+
 TEST_F(ResidenteTest, startedByTheSessionItOpensNoWindowUntilItIsAsked)
 {
     plataforma.m_instancia.silenciosa = true;

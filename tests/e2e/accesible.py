@@ -58,6 +58,10 @@ class Elemento:
         return self._estado(Atspi.StateType.CHECKED)
 
     @property
+    def seleccionado(self):
+        return self._estado(Atspi.StateType.SELECTED)
+
+    @property
     def enfocado(self):
         return self._estado(Atspi.StateType.FOCUSED)
 

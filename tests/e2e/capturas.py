@@ -1,10 +1,10 @@
 #!/usr/bin/python3
-"""Takes a picture of every screen of a program, light and dark, on a virtual desktop.
+"""Takes a picture of every screen of a program and of its panel, light and dark, on a virtual desktop.
 
     capturas.py PROGRAM LABEL FOLDER [--hogar HOME]
 
-The pictures lie in FOLDER/LABEL/<claro|oscuro>/<section>.png. Without --hogar the program gets an
-empty home of its own.
+The pictures lie in FOLDER/LABEL/<claro|oscuro>/<section>.png, the panel over the last screen in
+panel.png. Without --hogar the program gets an empty home of its own.
 """
 
 import argparse
@@ -43,6 +43,9 @@ def capturar_todas(escritorio, programa, carpeta):
         for clave, titulo in SECCIONES.items():
             ventana.esperar(titulo, FILA).pulsar()
             capturar_quieta(escritorio, os.path.join(carpeta, clave + ".png"))
+        programa.icono().pulsar()
+        programa.panel()
+        capturar_quieta(escritorio, os.path.join(carpeta, "panel.png"))
         programa.salir()
     return programa.quejas()
 

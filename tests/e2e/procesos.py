@@ -40,3 +40,8 @@ def terminar(proceso, gracia=5.0):
     proceso.wait()
     if proceso.stdout:
         proceso.stdout.close()
+
+
+def hay_espacios_de_montaje():
+    """Whether a program can be given other files under the same paths."""
+    return subprocess.run(["unshare", "--mount", "true"], capture_output=True).returncode == 0

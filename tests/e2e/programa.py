@@ -76,6 +76,10 @@ class Programa:
         """The open main window."""
         return self.raiz().esperar("Ovanta", visible=True)
 
+    def panel(self):
+        """The open panel of the tray."""
+        return self.raiz().esperar("Panel de Ovanta", visible=True)
+
     def icono(self):
         """Its icon in the tray."""
         return esperar(lambda: self.escritorio.anfitrion_bandeja.iconos, "el icono de la bandeja")[0]

@@ -112,6 +112,32 @@ class GestorArchivos(Servicio):
         self.mostrados.append(("ShowFolders", direcciones))
 
 
+class GestorSesion(Servicio):
+    """The session manager, which asks its user before the machine restarts. `pedidos` holds the method
+    of every request; nothing comes of any."""
+
+    NOMBRE = "org.gnome.SessionManager"
+    RUTA = "/org/gnome/SessionManager"
+    XML = """<node><interface name="org.gnome.SessionManager">
+      <method name="Reboot"/>
+      <method name="Shutdown"/>
+      <method name="Logout"><arg type="u" direction="in"/></method>
+    </interface></node>"""
+
+    def __init__(self, hilo):
+        super().__init__(hilo)
+        self.pedidos = []
+
+    def Reboot(self, _remitente):
+        self.pedidos.append("Reboot")
+
+    def Shutdown(self, _remitente):
+        self.pedidos.append("Shutdown")
+
+    def Logout(self, _remitente, _modo):
+        self.pedidos.append("Logout")
+
+
 class AnfitrionBandeja(Servicio):
     """The host of status icons; `iconos` holds those that registered and still live."""
 
@@ -171,6 +197,10 @@ class Icono:
 
     def pulsar(self):
         llamar(self.conexion, self.nombre, self.ruta, self.INTERFAZ, "Activate", GLib.Variant("(ii)", (0, 0)))
+
+    def pulsar_con_el_medio(self):
+        llamar(self.conexion, self.nombre, self.ruta, self.INTERFAZ, "SecondaryActivate",
+               GLib.Variant("(ii)", (0, 0)))
 
     def menu(self):
         """Text of every entry of the menu by its number, separators left out."""

@@ -1,13 +1,12 @@
 """The preferences: each is in effect at once, and again when the program comes back."""
 
 import os
-import subprocess
 import unittest
 
 from accesible import BOTON, CASILLA, FILA
 from esperar import esperar
+from gestor_ventanas import ConGestorDeVentanas
 from instalacion import instalar
-from procesos import iniciar, terminar
 from prueba import PruebaDeEscritorio
 from ventanas import pedir_cierre
 
@@ -165,24 +164,8 @@ class ElInicioDeSesion(ConAjustes):
         self.salir_sin_quejas(programa)
 
 
-class LaBarraDeTareas(ConAjustes):
+class LaBarraDeTareas(ConGestorDeVentanas, ConAjustes):
     """With a window manager of its own: only such a one changes the state of an open window."""
-
-    def setUp(self):
-        super().setUp()
-        gestor = iniciar(["openbox", "--sm-disable"], self.escritorio.registro("openbox"),
-                         self.escritorio.entorno(self.casa.ruta))
-        self.addCleanup(terminar, gestor)
-        esperar(lambda: "window id" in self.xprop("-root", "_NET_SUPPORTING_WM_CHECK"), "el gestor de ventanas")
-
-    def xprop(self, *que):
-        return subprocess.run(["xprop", "-display", self.escritorio.display, *que], capture_output=True,
-                              text=True).stdout
-
-    def numero(self):
-        """The program's window, as the window manager lists it; None while there is none."""
-        numeros = self.xprop("-root", "_NET_CLIENT_LIST").rpartition("#")[2].split(",")
-        return next((n for n in map(str.strip, numeros) if n and '"Ovanta"' in self.xprop("-id", n, "WM_NAME")), None)
 
     def omitida(self):
         """Whether the task bar leaves the program's window out; None while there is none."""
@@ -207,7 +190,7 @@ class LaBarraDeTareas(ConAjustes):
         pedir_cierre(self.escritorio, int(self.numero(), 16))
         esperar(lambda: self.omitida() is None, "que se cierre la ventana")
         self.assertIsNone(programa.proceso.poll(), "sin ventana ni Dock el programa sigue")
-        programa.icono().pulsar()
+        programa.icono().pulsar_con_el_medio()
         esperar(self.omitida, "la ventana nueva fuera de la barra")
         self.salir_sin_quejas(programa)
 

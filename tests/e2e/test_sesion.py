@@ -1,13 +1,13 @@
 """The program in its session: one instance, the tray, the window, and a prompt end."""
 
 import os
-import subprocess
 import unittest
 
 from accesible import FILA
 from caches import PantallaCaches
 from esperar import esperar
 from instalacion import instalar, regla
+from procesos import hay_espacios_de_montaje
 from programa import Casa
 from prueba import PruebaDeEscritorio
 from ventanas import abiertas, esperar_abierta, esperar_ninguna, pedir_cierre
@@ -20,10 +20,6 @@ echo $$ $! > "{lista}"
 wait
 sleep 1000
 """
-
-
-def hay_espacios_de_montaje():
-    return subprocess.run(["unshare", "--mount", "true"], capture_output=True).returncode == 0
 
 
 def leer_numeros(archivo):
@@ -82,16 +78,17 @@ class LaBandeja(PruebaDeEscritorio):
             self.assertEqual(len(bytes_), ancho * alto * 4)
         textos = list(icono.menu().values())
         self.assertIn(" libres", textos[0])
-        self.assertEqual(textos[1:], ["Abrir Ovanta", "Actualizar ahora", "Salir de Ovanta"])
+        self.assertEqual(textos[1:], ["Mostrar panel", "Abrir Ovanta", "Actualizar ahora", "Salir de Ovanta"])
         self.salir_sin_quejas(programa, por_menu=True)
 
-    def test_pulsar_el_icono_vuelve_a_abrir_la_ventana(self):
+    def test_el_boton_del_medio_y_el_menu_vuelven_a_abrir_la_ventana(self):
         programa = self.iniciar()
         icono = programa.icono()
-        pedir_cierre(self.escritorio, esperar_abierta(self.escritorio))
-        esperar_ninguna(self.escritorio)
-        icono.pulsar()
-        programa.ventana()
+        for abrir in (icono.pulsar_con_el_medio, lambda: icono.elegir("Abrir Ovanta")):
+            pedir_cierre(self.escritorio, esperar_abierta(self.escritorio))
+            esperar_ninguna(self.escritorio)
+            abrir()
+            programa.ventana()
         self.salir_sin_quejas(programa)
 
     def test_un_anfitrion_que_llega_tarde_recibe_el_icono(self):

@@ -87,31 +87,3 @@ TEST(NombreDeTarjeta, isOneThatTheSystemGivesToRealCards)
          {"lo", "docker0", "virbr0", "veth1a2b", "tun0", "tailscale0", "bond0", "br-12", "ifb0", ""})
         EXPECT_FALSE(nombreDeTarjeta(nombre)) << nombre;
 }
-
-TEST(InterpretarMeminfo, addsUpWhatCannotBeGivenAway)
-{
-    const auto memoria =
-        interpretarMeminfo("MemTotal:       16000 kB\nMemFree: 100 kB\nAnonPages: 3000 kB\n"
-                           "Shmem:  400 kB\nSUnreclaim: 50 kB\nKernelStack: 6 kB\n"
-                           "PageTables: 7 kB\nPercpu: 8 kB\nMlocked: 9 kB\nZswap: 11 kB\nZswapped: 44 kB\n");
-    ASSERT_TRUE(memoria);
-    EXPECT_EQ(memoria->fisica, 16000 * 1024);
-    EXPECT_EQ(memoria->apps, 3400 * 1024);
-    EXPECT_EQ(memoria->wired, 80 * 1024);
-    EXPECT_EQ(memoria->comprimida, 11 * 1024);
-}
-
-TEST(InterpretarMeminfo, anOldKernelLacksSomeAndATextWithoutTotalIsNone)
-{
-    EXPECT_EQ(interpretarMeminfo("MemTotal: 10 kB\nAnonPages: 4 kB")->apps, 4096);
-    EXPECT_FALSE(interpretarMeminfo("AnonPages: 4 kB\n"));
-    EXPECT_FALSE(interpretarMeminfo("MemTotal: mucho\n"));
-    EXPECT_FALSE(interpretarMeminfo(""));
-}
-
-TEST(InterpretarZram, isTheThirdNumber)
-{
-    EXPECT_EQ(interpretarZram("  1000  400  512 0 600 3 1 0 0\n"), 512);
-    EXPECT_EQ(interpretarZram("1000 400"), 0);
-    EXPECT_EQ(interpretarZram(""), 0);
-}

@@ -163,11 +163,35 @@ TEST_F(SimuladaPlataforma, LasHerramientasSinGuionFaltan)
 {
     EXPECT_EQ(mac.herramientas().buscarBinario("docker"), std::nullopt);
     try {
-        mac.herramientas().ejecutar("/usr/bin/xcrun", {"simctl"}, 5, false);
-        FAIL() << "xcrun ran";
+        mac.herramientas().ejecutar("/usr/bin/brew", {"cleanup"}, 5, false);
+        FAIL() << "brew ran";
     } catch (const ShellError &error) {
         EXPECT_EQ(error.caso(), ShellError::Caso::noEncontrado);
     }
+}
+
+TEST_F(SimuladaPlataforma, XcrunListaSusSimuladoresYCadaCarpetaTieneLaEdadDelSuyo)
+{
+    const auto xcrun = mac.herramientas().buscarBinario("xcrun");
+    ASSERT_TRUE(xcrun);
+    const std::string lista =
+        mac.herramientas().ejecutar(*xcrun, {"simctl", "list", "devices", "-j"}, 5, false);
+    EXPECT_NE(lista.find("com.apple.CoreSimulator.SimRuntime.iOS-18-2"), std::string::npos);
+    EXPECT_NE(lista.find("\"Booted\""), std::string::npos);
+    int carpetas = 0;
+    int recientes = 0;
+    for (const auto &carpeta : fs::directory_iterator(hogar + "/Library/Developer/CoreSimulator/Devices")) {
+        const std::string udid = carpeta.path().filename();
+        EXPECT_NE(lista.find(udid), std::string::npos) << udid;
+        const auto creado = mac.archivos().creado(carpeta.path());
+        ASSERT_TRUE(creado) << udid;
+        recientes += *creado >= hoy - std::chrono::days{7};
+        ++carpetas;
+    }
+    EXPECT_EQ(carpetas, 9) << "one has no folder";
+    EXPECT_EQ(recientes, 4);
+    EXPECT_THROW(mac.herramientas().ejecutar(*xcrun, {"simctl", "erase", "all"}, 5, false), ShellError);
+    EXPECT_EQ(mac.archivos().creado(hogar + "/nada"), std::nullopt);
 }
 
 TEST_F(SimuladaPlataforma, UnaHerramientaConGuionContestaYQuedaAnotada)

@@ -1,6 +1,8 @@
 #include "tests/ui/BancoInterfaz.h"
 
 #include "core/qt/HiloPrincipal.h"
+#include "platform/simulada/MemoriaSimulada.h"
+#include "platform/simulada/SesionSimulada.h"
 
 #include <QCoreApplication>
 #include <QCoroTask>
@@ -65,7 +67,7 @@ OvantaApp &BancoInterfaz::app()
 {
     if (!m_app) {
         m_app = std::make_unique<OvantaApp>(plataforma);
-        Ovanta::usar(m_app.get(), m_aspecto.get());
+        Ovanta::usar(m_app.get(), m_aspecto.get(), nullptr);
     }
     return *m_app;
 }
@@ -130,6 +132,36 @@ void BancoInterfaz::ponerCatalogoRealista()
                           "developer", "safe", "contents", i % 4 == 0 ? -1 : 1000L * i});
     }
     poner(reglas);
+}
+
+void BancoInterfaz::ponerMemoria(MemoriaSistema::Nivel nivel)
+{
+    RegistroMutaciones registro;
+    RelojManual reloj;
+    MemoriaSimulada memoria{reloj};
+    SesionSimulada sesion{reloj, registro};
+    memoria.apretar(nivel);
+    for (int lectura = 0; lectura < 2; ++lectura) {
+        plataforma.m_memoriaSistema.total = memoria.fisica();
+        plataforma.m_memoriaSistema.actual = memoria.leer();
+        plataforma.m_procesos.cuantosNucleos = sesion.nucleos();
+        plataforma.m_procesos.muestras = sesion.muestrear();
+        plataforma.m_enMarcha.abiertas = sesion.listar();
+        app();
+        leerMemoria();
+        reloj.avanzar(std::chrono::seconds{10});
+        plataforma.m_reloj.fijar(plataforma.m_reloj.ahora() + std::chrono::seconds{10});
+    }
+}
+
+void BancoInterfaz::leerMemoria()
+{
+    MemoryMonitor &mem = app().mem();
+    int leidas = 0;
+    const auto conexion = QObject::connect(&mem, &MemoryMonitor::rankingChanged, [&leidas] { ++leidas; });
+    mem.medir();
+    esperar([&] { return leidas > 0; });
+    QObject::disconnect(conexion);
 }
 
 void BancoInterfaz::ponerHistorial(int entradas)

@@ -44,6 +44,8 @@ protected:
     void poner(const std::vector<ReglaDePrueba> &reglas);
     /// Forty rules of all categories and risks as a real machine has them.
     void ponerCatalogoRealista();
+    /// Reads twice the memory and the applications of a busy Mac, so short of memory.
+    void ponerMemoria(MemoriaSistema::Nivel nivel = MemoriaSistema::Nivel::normal);
     /// So many entries in the history file; before the first `app`.
     void ponerHistorial(int entradas);
 
@@ -52,6 +54,8 @@ protected:
     void esperar(const std::function<bool()> &cierto);
     /// Loads and measures the catalogue.
     void medir();
+    /// Reads the memory again, to its end.
+    void leerMemoria();
     /// Keeps every measurement under way until `soltar`.
     void frenar();
     void soltar();

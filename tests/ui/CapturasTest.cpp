@@ -30,6 +30,7 @@ TEST_P(Capturas, everyScreenStandsInEveryLookAndSize)
 {
     ponerCatalogoRealista();
     ponerHistorial(500);
+    ponerMemoria();
     app();
     medir();
     abrir(GetParam().seccion);
@@ -41,10 +42,9 @@ TEST_P(Capturas, everyScreenStandsInEveryLookAndSize)
     retratar(QStringLiteral("contraste-oscura"), {.oscuro = true, .altoContraste = true}, {1000, 700});
 }
 
-INSTANTIATE_TEST_SUITE_P(Pantallas, Capturas,
-                         testing::Values(Vista{"resumen", Seccion::resumen},
-                                         Vista{"caches", Seccion::espacio},
-                                         Vista{"historial", Seccion::historial},
-                                         Vista{"ajustes", Seccion::ajustes},
-                                         Vista{"construccion", Seccion::memoria}),
-                         [](const auto &info) { return info.param.nombre; });
+INSTANTIATE_TEST_SUITE_P(
+    Pantallas, Capturas,
+    testing::Values(Vista{"resumen", Seccion::resumen}, Vista{"caches", Seccion::espacio},
+                    Vista{"historial", Seccion::historial}, Vista{"ajustes", Seccion::ajustes},
+                    Vista{"memoria", Seccion::memoria}, Vista{"construccion", Seccion::salud}),
+    [](const auto &info) { return info.param.nombre; });

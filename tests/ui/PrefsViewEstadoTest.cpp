@@ -69,7 +69,7 @@ TEST_F(PrefsViewEstadoTest, everyControlDrivesItsStoreAndItsPreferenceAndSurvive
         EXPECT_EQ(plataforma.m_preferencias.leer(caso.clave), caso.guardado) << caso.clave;
     }
     const OvantaApp otra(plataforma);
-    Ovanta::usar(const_cast<OvantaApp *>(&otra), nullptr);
+    Ovanta::usar(const_cast<OvantaApp *>(&otra), nullptr, nullptr);
     const PrefsViewEstado despues;
     for (const Caso &caso : casos)
         EXPECT_EQ(despues.property(caso.propiedad), caso.nuevo) << caso.propiedad;

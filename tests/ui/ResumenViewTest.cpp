@@ -62,7 +62,7 @@ TEST_F(ResumenView, firstShowingLoadsAndMeasuresTheCatalogueOnce)
     esperar([&] { return !estado.midiendo(); });
     EXPECT_EQ(estado.ahorro(), QStringLiteral("1,02 GB"));
     estado.alMostrar();
-    EXPECT_FALSE(estado.midiendo());
+    EXPECT_FALSE(app().reglas().midiendo());
 }
 
 TEST_F(ResumenView, whileMeasuringItSaysSoAndHasNothingToStopYet)

@@ -42,7 +42,7 @@ TEST(TarjetasResumen, withFiguresTheyTellThem)
     e.simuladoresNuevos = 2;
     e.bytesNuevos = 3'000'000'000;
     e.presion = 0.426;
-    e.memoria = EntradasResumen::Memoria::tension;
+    e.memoria = EstadoMemoria::tension;
     e.descargas = 4;
     e.bytesDescargas = 5'000'000;
     const auto tarjetas = tarjetasResumen(e);
@@ -61,7 +61,7 @@ TEST(TarjetasResumen, theTintOfMemoryFollowsItsState)
 {
     EntradasResumen e;
     EXPECT_EQ(tarjetasResumen(e)[4].tinte, Tinte::Verde);
-    e.memoria = EntradasResumen::Memoria::critico;
+    e.memoria = EstadoMemoria::critico;
     EXPECT_EQ(tarjetasResumen(e)[4].tinte, Tinte::Rojo);
     EXPECT_TRUE(tarjetasResumen(e)[4].detalle.startsWith(QStringLiteral("Presión crítica")));
     EXPECT_EQ(tarjetasResumen(e)[3].tinte, Tinte::Secundario);

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import Ovanta
 
-/// A symbol with a text.
+/// A symbol with a text, beside its first line.
 RowLayout {
     id: raiz
     property string simbolo
@@ -18,7 +18,7 @@ RowLayout {
         color: raiz.color
         Layout.preferredWidth: tamano
         Layout.preferredHeight: tamano
-        Layout.alignment: Qt.AlignVCenter
+        Layout.alignment: Qt.AlignTop
     }
     Texto {
         text: raiz.texto
@@ -26,6 +26,7 @@ RowLayout {
         font.pixelSize: raiz.letra
         font.weight: raiz.grosor
         wrapMode: Text.Wrap
+        Layout.alignment: Qt.AlignTop
         Layout.fillWidth: true
         Layout.maximumWidth: implicitWidth + 1
     }

@@ -1,20 +1,22 @@
 import QtQuick
 import Ovanta
 
-/// What stands inside a button: a text and perhaps a symbol, in the middle.
+/// What stands inside a button: a text and perhaps a symbol, in the middle. A text too long for it is cut.
 Item {
     id: raiz
     property string texto
     property string simbolo
     property color tinta
+    readonly property real sitioSimbolo: simbolo === "" ? 0 : dibujo.width + fila.spacing
 
-    implicitWidth: fila.implicitWidth
+    implicitWidth: rotulo.implicitWidth + sitioSimbolo
     implicitHeight: fila.implicitHeight
     Row {
         id: fila
         anchors.centerIn: parent
         spacing: 7
         Symbol {
+            id: dibujo
             visible: raiz.simbolo !== ""
             nombre: raiz.simbolo
             tamano: 17
@@ -22,6 +24,8 @@ Item {
             anchors.verticalCenter: parent.verticalCenter
         }
         Texto {
+            id: rotulo
+            width: Math.min(implicitWidth, Math.max(0, raiz.width - raiz.sitioSimbolo))
             text: raiz.texto
             color: raiz.tinta
             font.pixelSize: Tema.letraCuerpo - 1

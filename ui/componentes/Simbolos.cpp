@@ -66,6 +66,7 @@ constexpr Simbolo simbolos[] = {
     {"ipad", 0xe331},                                        // tablet_mac
     {"iphone.gen3", 0xe325},                                 // phone_iphone
     {"iphone.gen3.slash", 0xe327},                           // phonelink_off
+    {"lightbulb", 0xe90f},                                   // lightbulb_outline
     {"list.bullet", 0xe241},                                 // format_list_bulleted
     {"lock.fill", 0xe897},                                   // lock
     {"lock.open", 0xe898},                                   // lock_open

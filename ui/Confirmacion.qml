@@ -2,12 +2,13 @@ import QtQuick
 import QtQuick.Layouts
 import Ovanta
 
-/// Asks before anything moves. The focus starts on the way out.
+/// Asks before something is done. The focus starts on the way out.
 Dialogo {
     id: raiz
     property string mensaje
-    property string textoMover: "Mover a la Papelera"
-    property int variante: Boton.Primario
+    property string accion
+    property string simbolo
+    property bool destructiva
     signal confirmada
 
     width: Math.min(440, parent.width - 2 * Tema.margen)
@@ -26,9 +27,9 @@ Dialogo {
             onClicked: raiz.close()
         },
         Boton {
-            variante: raiz.variante
-            simbolo: "trash"
-            text: raiz.textoMover
+            variante: raiz.destructiva ? Boton.Destructivo : Boton.Primario
+            simbolo: raiz.simbolo
+            text: raiz.accion
             onClicked: raiz.confirmada()
         }
     ]
