@@ -2,9 +2,9 @@
 
 #include "core/Tamano.h"
 #include "core/qt/Calendario.h"
+#include "core/qt/EntregaUnica.h"
 #include "core/qt/Formato.h"
 #include "core/qt/HiloPrincipal.h"
-#include "core/qt/SegundoPlano.h"
 #include "core/qt/Texto.h"
 
 #include <QCoroFuture>
@@ -68,17 +68,16 @@ void MemoryMonitor::medir()
 
 QCoro::Task<> MemoryMonitor::recargar()
 {
-    const QPointer vivo{this};
-    // The memory and the processes in one go: at rest each further task would wake the processor twice.
+    // The memory and the processes in one go, delivered in one go: all this happens at rest too.
     auto mirar = [&plataforma = m_plataforma] { return Vistos::de(plataforma); };
-    auto futuro = enSegundoPlano(Prioridad::Utilidad, std::move(mirar));
-    m_lecturaEnCurso = QFuture<void>(futuro);
-    const Vistos vistos = co_await futuro;
-    if (!vivo) co_return;
-    publicarLectura(vistos.lectura, m_plataforma.reloj().ahora());
-    publicarProcesos(vistos);
-    publicarRecomendaciones(m_plataforma.reloj().ahora());
-    m_leyendo = false;
+    auto publicar = [this](const Vistos &vistos) {
+        publicarLectura(vistos.lectura, m_plataforma.reloj().ahora());
+        publicarProcesos(vistos);
+        publicarRecomendaciones(m_plataforma.reloj().ahora());
+        m_leyendo = false;
+    };
+    m_lecturaEnCurso = entregarUnaVez(Prioridad::Utilidad, std::move(mirar), this, std::move(publicar));
+    co_return;
 }
 
 MemoryMonitor::Vistos MemoryMonitor::Vistos::de(Plataforma &plataforma)

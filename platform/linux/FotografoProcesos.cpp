@@ -2,6 +2,8 @@
 
 #include "platform/linux/BarridoProc.h"
 
+#include <algorithm>
+
 namespace ovanta {
 
 FotografoProcesos::FotografoProcesos(Barrer barrer, LugaresEntradas lugares, EntornoProcesos entorno,
@@ -22,7 +24,7 @@ std::shared_ptr<FotografoProcesos> FotografoProcesos::deEsteEquipo()
 FotoRef FotografoProcesos::ahora()
 {
     const std::scoped_lock cerrado(m_cerrojo);
-    return tomar();
+    return tomar(true);
 }
 
 FotoRef FotografoProcesos::reciente()
@@ -30,19 +32,29 @@ FotoRef FotografoProcesos::reciente()
     constexpr std::chrono::seconds momento{2};
     const std::scoped_lock cerrado(m_cerrojo);
     if (m_ultima && std::chrono::steady_clock::now() - m_ultima->cuando < momento) return m_ultima;
-    return tomar();
+    return tomar(false);
 }
 
-FotoRef FotografoProcesos::tomar()
+bool FotografoProcesos::hacenFaltaVentanas(const std::vector<ProcesoVisto> &procesos) const
+{
+    constexpr std::chrono::minutes caducidad{2};
+    if (!m_ultima || std::chrono::steady_clock::now() - m_ventanasVistas >= caducidad) return true;
+    const std::uint64_t ahora = EntornoProcesos::ahora();
+    return std::ranges::any_of(procesos, [&](const ProcesoVisto &proceso) {
+        return ahora < proceso.inicio + m_entorno.marcasPorMinuto / 2;
+    });
+}
+
+FotoRef FotografoProcesos::tomar(bool conVentanas)
 {
     auto foto = std::make_shared<FotoProcesos>();
     foto->procesos = m_barrer();
-    // Nobody loses its windows by a server that is slow: without them it would be signalled.
-    auto ventanas = m_ventanas.listar();
-    if (ventanas)
-        foto->ventanas = std::move(*ventanas);
-    else if (m_ultima)
-        foto->ventanas = m_ultima->ventanas;
+    if (m_ultima) foto->ventanas = m_ultima->ventanas;
+    if (conVentanas || hacenFaltaVentanas(foto->procesos)) {
+        // Nobody loses its windows by a server that is slow: without them it would be signalled.
+        if (auto ventanas = m_ventanas.listar()) foto->ventanas = std::move(*ventanas);
+        m_ventanasVistas = std::chrono::steady_clock::now();
+    }
     foto->pertenencias = m_clasificador.clasificar(foto->procesos, foto->ventanas, EntornoProcesos::ahora());
     foto->cuando = std::chrono::steady_clock::now();
     m_ultima = foto;

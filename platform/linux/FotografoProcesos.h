@@ -39,7 +39,9 @@ public:
 
     /// How things stand now.
     FotoRef ahora();
-    /// The last look where it is a moment old, else a new one: for those who only show.
+    /// The last look where it is a moment old, else a new one: for those who only show. The display is
+    /// asked again only while there are young processes, and every other minute: windows come with
+    /// processes, and each question wakes the display server too.
     FotoRef reciente();
 
     const EntornoProcesos &entorno() const { return m_entorno; }
@@ -49,7 +51,8 @@ public:
     EntradaRef primeraEntrada(const std::vector<std::string> &ids);
 
 private:
-    FotoRef tomar();
+    FotoRef tomar(bool conVentanas);
+    bool hacenFaltaVentanas(const std::vector<ProcesoVisto> &procesos) const;
 
     std::mutex m_cerrojo;
     Barrer m_barrer;
@@ -57,6 +60,7 @@ private:
     ClasificadorApps m_clasificador;
     VentanasX11 m_ventanas;
     FotoRef m_ultima;
+    std::chrono::steady_clock::time_point m_ventanasVistas;
 };
 
 } // namespace ovanta
