@@ -83,7 +83,7 @@ TEST_F(InicioAutomaticoLinuxTest, theUsersOwnSwitchesReadAsOff)
     }
     escribir(entrada, "[Desktop Entry]\nName=Ovanta\n");
     EXPECT_FALSE(ovanta.activado()) << "an entry without a command starts nothing";
-    escribir(entrada, std::string("\0\xff[[[=\nExec", 13));
+    escribir(entrada, std::string("\0\xff[[[=\nExec", 11));
     EXPECT_FALSE(ovanta.activado());
 }
 
