@@ -50,7 +50,7 @@ void Scanner::leerPreferencias()
     preferencias.registrar(claveDias, std::int64_t{m_diasDescargas});
     const double minimo = preferencias.real(claveMinimo);
     const std::int64_t dias = preferencias.entero(claveDias);
-    if (esMinimo(minimo)) m_minimoMB = minimo;
+    if (minimo > 0 && esMinimo(minimo)) m_minimoMB = minimo; // what cannot be read reads as 0
     if (sonDias(dias)) m_diasDescargas = static_cast<int>(dias);
 }
 

@@ -15,7 +15,7 @@ constexpr std::uint64_t kib = 1024;
 /// A few places are big and most are small, none quite like its neighbours.
 std::uint64_t tamanoDe(std::size_t numero)
 {
-    const std::uint64_t base = numero % 12 == 0 ? 3000 : 20;
+    const std::uint64_t base = numero % 12 == 0 ? 2000 : 20;
     return (base + numero * 977 % 400) * kib;
 }
 
