@@ -85,7 +85,9 @@ Tipos tiposHallados(std::string_view salidaDeFind)
 {
     Tipos tipos;
     porLinea(salidaDeFind, [&](std::string_view ruta) {
-        if (ruta.contains("/Library/") || ruta.contains("/.Trash/")) return;
+        // What was thrown away is not to be found again; the last is where other desktops keep it.
+        if (ruta.contains("/Library/") || ruta.contains("/.Trash/") || ruta.contains("/.local/share/Trash/"))
+            return;
         tipos.emplace(ruta, ultimoComponente(ruta));
     });
     return tipos;

@@ -44,6 +44,7 @@ TEST(BuscarCarpetas, neitherUnderLibraryNorBeyondSixLevels)
     arbol.escribir("Library/node_modules/x", "x");
     arbol.escribir("proyecto/Library/node_modules/x", "x");
     arbol.escribir(".Trash/node_modules/x", "x");
+    arbol.escribir(".local/share/Trash/files/node_modules/x", "x");
     arbol.escribir("1/2/3/4/5/node_modules/x", "x");
     arbol.escribir("1/2/3/4/5/6/node_modules/x", "x");
     HerramientasLinux herramientas{arbol.raiz()};

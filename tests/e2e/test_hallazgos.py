@@ -123,7 +123,7 @@ class LosHallazgos(PruebaDeEscritorio):
             archivo.write(b"otra cosa")
         resultado = pantalla.mover("¿Mover 2 copias?", A_LA_PAPELERA)
         self.assertTrue(resultado.startswith("Movidas 1 copias · "), resultado)
-        pantalla.ventana.esperar(contiene=f"{cambiada}", papel="label")
+        pantalla.ventana.esperar(contiene="dos.bin: cambió después de compararse", papel="label")
         self.salir_sin_quejas(programa)
         self.assertEqual(listar(self.casa.ruta), [intacta])
         self.assertTrue(os.path.exists(cambiada))
