@@ -7,8 +7,6 @@
 #include "core/qt/HiloPrincipal.h"
 #include "core/qt/Texto.h"
 
-#include <QCoroFuture>
-#include <QPointer>
 #include <utility>
 
 namespace ovanta {
@@ -66,7 +64,7 @@ void MemoryMonitor::medir()
     recargar();
 }
 
-QCoro::Task<> MemoryMonitor::recargar()
+void MemoryMonitor::recargar()
 {
     // The memory and the processes in one go, delivered in one go: all this happens at rest too.
     auto mirar = [&plataforma = m_plataforma] { return Vistos::de(plataforma); };
@@ -77,7 +75,6 @@ QCoro::Task<> MemoryMonitor::recargar()
         m_leyendo = false;
     };
     m_lecturaEnCurso = entregarUnaVez(Prioridad::Utilidad, std::move(mirar), this, std::move(publicar));
-    co_return;
 }
 
 MemoryMonitor::Vistos MemoryMonitor::Vistos::de(Plataforma &plataforma)

@@ -118,7 +118,7 @@ private:
     QDateTime ultimaQt() const;
     QString estadoQt() const;
 
-    QCoro::Task<> recargar();
+    void recargar();
     void publicarLectura(const MemoriaSistema::Lectura &lectura, Fecha ahora);
     void publicarProcesos(const Vistos &vistos);
     void publicarRecomendaciones(Fecha ahora);
