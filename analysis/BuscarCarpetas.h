@@ -11,8 +11,8 @@ namespace ovanta {
 
 /// Finds the heavy folders that tools make again ("node_modules", ".venv", "venv", "target", ".next",
 /// "build"), down to six levels below home, and measures them; biggest first. A folder inside one of
-/// them is not told apart, and what lies in the Trash is left out. Empty where it was stopped or the search failed; where measuring fails,
-/// those folders are missing. Blocking; background threads only.
+/// them is not told apart, and what lies in the Trash is left out. Empty where it was stopped or the search
+/// failed; where measuring fails, those folders are missing. Blocking; background threads only.
 std::vector<CarpetaPesada> buscarCarpetas(Herramientas &herramientas, const std::string &hogar,
                                           const BanderaCancelacion *cancelacion);
 
