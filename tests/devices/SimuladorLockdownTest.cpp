@@ -1,4 +1,3 @@
-#include "tests/devices/ClienteCrudo.h"
 #include "tests/devices/DispositivosDePrueba.h"
 
 #include <gmock/gmock.h>
@@ -6,57 +5,10 @@
 namespace ovanta {
 namespace {
 
-using pruebas::ClienteCrudo;
-using pruebas::ClienteTls;
-using pruebas::dispositivo;
-using pruebas::plist;
-using pruebas::valorEnXml;
-using testing::Contains;
+using namespace pruebas;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
-
-/// Serves what is behind one port of a device, and the peer that talks to it.
-struct Puerto
-{
-    Puerto(std::shared_ptr<DispositivoSimulado> quien, std::uint16_t puerto)
-        : Puerto(std::move(quien), puerto, *escucharEnBucle(0))
-    {
-    }
-    Puerto(std::shared_ptr<DispositivoSimulado> quien, std::uint16_t puerto, Descriptor escucha)
-        : dispositivo(std::move(quien)), cliente(ClienteCrudo::dePuerto(puertoDe(escucha))),
-          servidor(std::move(escucha),
-                   [this, puerto](EnchufeSimulado &enchufe) { dispositivo->conversar(enchufe, puerto); })
-    {
-    }
-
-    std::shared_ptr<DispositivoSimulado> dispositivo;
-    ClienteCrudo cliente;
-    ServidorSimulado servidor;
-};
-
-std::string texto(const std::string &clave, const std::string &valor)
-{
-    return "<key>" + clave + "</key><string>" + valor + "</string>";
-}
-
-std::string peticion(const std::string &orden, const std::string &mas = {})
-{
-    return plist(texto("Label", "yo") + texto("Request", orden) + mas);
-}
-
-std::string abrirSesion(DispositivoSimulado &dispositivo)
-{
-    return peticion("StartSession", texto("HostID", dispositivo.emparejamiento().hostId()) +
-                                        texto("SystemBUID", dispositivo.emparejamiento().buid()));
-}
-
-template <typename Cliente>
-std::string preguntar(const Cliente &cliente, const std::string &pregunta)
-{
-    cliente.escribirMarco(pregunta);
-    return cliente.leerMarco();
-}
 
 const std::string servicio = texto("Service", "com.apple.mobile.diagnostics_relay");
 

@@ -35,8 +35,8 @@ CertificadoSimulado mostrado(const OpcionesDispositivo &opciones, const Certific
 EmparejamientoSimulado::EmparejamientoSimulado(const OpcionesDispositivo &opciones)
     : m_hostId(uuidNuevo()), m_buid(uuidNuevo())
 {
-    // The root's key is its own, as Macs that pair make it.
-    const EmisorSimulado raiz{"Root", claveSimulada(opciones.claveDelMac, "raíz")};
+    // The root has a key of its own, as Macs make it when they pair. Only its signatures are ever used.
+    const EmisorSimulado raiz{"Root", claveSimulada(TipoDeClave::p256, "raíz")};
     const EmisorSimulado mac{"Host", claveSimulada(opciones.claveDelMac, "mac")};
     const EmisorSimulado dispositivo{"Device", claveSimulada(opciones.claveDelDispositivo, "dispositivo")};
     const CertificadoSimulado delMac = certificar(mac, raiz);
