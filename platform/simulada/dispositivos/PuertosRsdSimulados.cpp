@@ -10,20 +10,20 @@ namespace ovanta {
 
 namespace {
 
-Descriptor escuchar(std::optional<std::uint16_t> puerto)
+Descriptor escuchar(const std::string &direccion, std::optional<std::uint16_t> puerto)
 {
     for (std::uint16_t uno = puerto.value_or(primerPuertoRsd); uno <= puerto.value_or(ultimoPuertoRsd); ++uno)
-        if (auto escucha = escucharEnBucle(uno)) return std::move(*escucha);
+        if (auto escucha = escucharEnBucle(uno, direccion)) return std::move(*escucha);
     lanzarErrno(EADDRINUSE);
 }
 
 } // namespace
 
 PuertosRsdSimulados::PuertosRsdSimulados(std::shared_ptr<DispositivoSimulado> dispositivo,
-                                         std::vector<OpcionesRsd> puertos)
-    : m_dispositivo(std::move(dispositivo))
+                                         std::vector<OpcionesRsd> puertos, std::string direccion)
+    : m_dispositivo(std::move(dispositivo)), m_direccion(std::move(direccion))
 {
-    Descriptor rele = escuchar(0);
+    Descriptor rele = escuchar(m_direccion, 0);
     m_puertoRele = puertoDe(rele);
     m_servidores.push_back(
         std::make_unique<ServidorSimulado>(std::move(rele), [this](EnchufeSimulado &enchufe) {
@@ -35,7 +35,7 @@ PuertosRsdSimulados::PuertosRsdSimulados(std::shared_ptr<DispositivoSimulado> di
 
 void PuertosRsdSimulados::abrir(const OpcionesRsd &opciones)
 {
-    Descriptor escucha = escuchar(opciones.puerto);
+    Descriptor escucha = escuchar(m_direccion, opciones.puerto);
     m_puertos.push_back(puertoDe(escucha));
     m_servidores.push_back(
         std::make_unique<ServidorSimulado>(std::move(escucha), [this, opciones](EnchufeSimulado &enchufe) {

@@ -39,15 +39,18 @@ struct OpcionesRsd
     FallosSimulados fallos; ///< of the bytes
 };
 
-/// The end of a tunnel to one device, on ::1: ports that are what their options say, and the diagnostics
-/// relay that the discovery service tells of. Ports without options are closed. Destroying it ends all.
+/// The end of a tunnel to one device, on an address as `escucharEnBucle` takes it: ports that are what their
+/// options say, and the diagnostics relay that the discovery service tells of. Ports without options are
+/// closed. Destroying it ends all.
 class PuertosRsdSimulados
 {
 public:
     /// Throws `std::system_error` where a port is taken, or none is free.
-    PuertosRsdSimulados(std::shared_ptr<DispositivoSimulado> dispositivo, std::vector<OpcionesRsd> puertos);
+    PuertosRsdSimulados(std::shared_ptr<DispositivoSimulado> dispositivo, std::vector<OpcionesRsd> puertos,
+                        std::string direccion = "::1");
 
     const std::shared_ptr<DispositivoSimulado> &dispositivo() const { return m_dispositivo; }
+    const std::string &direccion() const { return m_direccion; }
     /// In the order of the options.
     const std::vector<std::uint16_t> &puertos() const { return m_puertos; }
     std::uint16_t puertoRele() const { return m_puertoRele; }
@@ -59,6 +62,7 @@ private:
     void abrir(const OpcionesRsd &opciones);
 
     std::shared_ptr<DispositivoSimulado> m_dispositivo;
+    std::string m_direccion;
     DiarioSimulado m_diario;
     std::vector<std::uint16_t> m_puertos;
     std::uint16_t m_puertoRele = 0;

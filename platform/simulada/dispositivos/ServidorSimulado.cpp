@@ -2,7 +2,7 @@
 
 #include "core/ErrorSistema.h"
 
-#include <algorithm>
+#include <arpa/inet.h>
 #include <array>
 #include <cerrno>
 #include <cstring>
@@ -45,16 +45,18 @@ Descriptor escucharEnRuta(const std::string &ruta)
     return enchufe;
 }
 
-std::optional<Descriptor> escucharEnBucle(std::uint16_t puerto)
+std::optional<Descriptor> escucharEnBucle(std::uint16_t puerto, const std::string &direccion)
 {
-    sockaddr_in6 direccion{};
-    direccion.sin6_family = AF_INET6;
-    direccion.sin6_addr = in6addr_loopback;
-    direccion.sin6_port = htons(puerto);
+    sockaddr_in6 lugar{};
+    lugar.sin6_family = AF_INET6;
+    lugar.sin6_port = htons(puerto);
+    if (::inet_pton(AF_INET6, direccion.c_str(), &lugar.sin6_addr) != 1) lanzarErrno(EINVAL);
     Descriptor enchufe = nuevoEnchufe(AF_INET6);
     const int si = 1;
+    const int no = 0; // an address that stands for one of IPv4 is served too
+    ::setsockopt(enchufe.numero(), IPPROTO_IPV6, IPV6_V6ONLY, &no, sizeof no);
     ::setsockopt(enchufe.numero(), SOL_SOCKET, SO_REUSEADDR, &si, sizeof si);
-    if (ocupar(enchufe, direccion)) return enchufe;
+    if (ocupar(enchufe, lugar)) return enchufe;
     if (errno == EADDRINUSE) return std::nullopt;
     lanzarErrno(errno);
 }

@@ -15,8 +15,9 @@ namespace ovanta {
 /// A socket that listens on the path of a Unix socket. Throws `std::system_error`.
 Descriptor escucharEnRuta(const std::string &ruta);
 
-/// A socket that listens on ::1; port 0 takes any free one. Nothing where the port is taken.
-std::optional<Descriptor> escucharEnBucle(std::uint16_t puerto);
+/// A socket that listens on an address of this machine alone, ::1 or one below ::ffff:127.0.0.0; port 0 takes
+/// any free one. Nothing where the port is taken. Throws `std::system_error`.
+std::optional<Descriptor> escucharEnBucle(std::uint16_t puerto, const std::string &direccion = "::1");
 /// The port of a socket that `escucharEnBucle` made.
 std::uint16_t puertoDe(const Descriptor &escucha);
 
