@@ -4,6 +4,7 @@
 #include "core/LeerArchivo.h"
 #include "core/Recursos.h"
 #include "platform/simulada/SimuladoresSinteticos.h"
+#include "platform/simulada/dispositivos/HistorialDeSalud.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -54,6 +55,7 @@ PlataformaSimulada::PlataformaSimulada(const Opciones &opciones)
                                                  : responderXcrun(args);
     });
     m_casa.amueblar(rutasDelCatalogo(m_lugares.catalogo), m_reloj.ahora());
+    ponerHistorialDeSalud(m_casa.hogar(), m_reloj.ahora());
 }
 
 } // namespace ovanta

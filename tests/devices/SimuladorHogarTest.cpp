@@ -1,6 +1,7 @@
 #include "core/Ejecutar.h"
 #include "core/LeerArchivo.h"
 #include "platform/simulada/PlataformaSimulada.h"
+#include "tests/HogarTemporal.h"
 #include "tests/devices/DispositivosDePrueba.h"
 
 #include <filesystem>
@@ -108,10 +109,31 @@ TEST_F(SimuladorHogar, itsDeveloperToolsRefuseWhatTheyDoNotKnow)
     EXPECT_THROW(llamar({"devicectl", "list", "devices", "-j", "/no/hay/carpeta"}), ShellError);
 }
 
+TEST_F(SimuladorHogar, itsHomeHoldsEarlierReadingsOfItsDevicesOldestFirst)
+{
+    const std::string archivo =
+        mac.lugares().hogar + "/Library/Application Support/Ovanta/salud-dispositivos.json";
+    const json historial = json::parse(leerArchivo(archivo, 1'000'000, EnlaceFinal::rechazar));
+    ASSERT_TRUE(historial.contains(std::string(udidIphoneDeLucia)));
+    ASSERT_TRUE(historial.contains(std::string(udidIphoneDeMartin)));
+    for (const json &lecturas : historial) {
+        EXPECT_GE(lecturas.size(), 2U);
+        std::string anterior;
+        for (const json &una : lecturas) {
+            const std::string fecha = una.at("fecha");
+            EXPECT_TRUE(fecha.ends_with("T00:00:00Z")) << fecha;
+            EXPECT_LT(anterior, fecha);
+            EXPECT_LT(fecha, "2026-11-21");
+            anterior = fecha;
+        }
+    }
+}
+
 TEST(SimuladorDevicectl, aTunnelMayOpenAtTheSecondQuestion)
 {
     DevicectlSimulado devicectl({{dispositivo(), "ID", "wired", {"disconnected", "connected"}}});
-    const std::string archivo = std::filesystem::temp_directory_path() / "ovanta-prueba-devicectl.json";
+    const HogarTemporal hogar;
+    const std::string archivo = hogar.en("devicectl.json");
     std::vector<std::string> estados;
     for (int i = 0; i < 3; ++i) {
         devicectl.responder(
@@ -119,7 +141,6 @@ TEST(SimuladorDevicectl, aTunnelMayOpenAtTheSecondQuestion)
         const json leido = json::parse(leerArchivo(archivo, 1'000'000, EnlaceFinal::rechazar));
         estados.push_back(leido.at("result").at("connectionProperties").at("tunnelState"));
     }
-    std::filesystem::remove(archivo);
     EXPECT_THAT(estados, ElementsAre("disconnected", "connected", "connected"));
 }
 

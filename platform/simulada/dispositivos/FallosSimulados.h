@@ -22,7 +22,8 @@ struct FallosSimulados
     std::optional<std::size_t> cortarEnElByte;
     std::size_t trozo = 0;              ///< bytes that leave at once; 0 for all
     std::chrono::milliseconds pausa{0}; ///< between two pieces; with a `trozo` of 1 the bytes drip
-    /// Request (for a battery query "GetValue com.apple.mobile.battery") to the `Error` in its answer.
+    /// Of lockdown and the relay: a request (with its domain, "GetValue com.apple.mobile.battery") to the
+    /// `Error` in its answer.
     std::map<std::string, std::string> errores;
 };
 

@@ -13,7 +13,7 @@ OpcionesDispositivo iphoneDeLucia()
     opciones.modelo = "iPhone16,1";
     opciones.marketing = "iPhone 15 Pro";
     opciones.version = "18.1";
-    opciones.udid = "00008130-001C2D3E4F50607A";
+    opciones.udid = udidIphoneDeLucia;
     opciones.identificador = 3;
     opciones.tls = VersionTls::tls13;
     opciones.bateria = {.porcentaje = 81,
@@ -33,7 +33,7 @@ OpcionesDispositivo iphoneDeMartin()
     opciones.nombre = "iPhone de Martín";
     opciones.modelo = "iPhone12,1";
     opciones.version = "17.7.1";
-    opciones.udid = "00008030-000D1E2F3A4B5C6D";
+    opciones.udid = udidIphoneDeMartin;
     opciones.identificador = 4;
     opciones.bateria = {.porcentaje = 38,
                         .cargando = true,

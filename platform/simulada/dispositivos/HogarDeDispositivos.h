@@ -5,8 +5,13 @@
 #include "platform/simulada/dispositivos/UsbmuxdSimulado.h"
 
 #include <mutex>
+#include <string_view>
 
 namespace ovanta {
+
+// Two devices of the household that were read before.
+inline constexpr std::string_view udidIphoneDeLucia = "00008130-001C2D3E4F50607A";
+inline constexpr std::string_view udidIphoneDeMartin = "00008030-000D1E2F3A4B5C6D";
 
 /// The iPhones and iPads of a household, as the simulated Mac reaches them: two by cable that are trusted,
 /// one of them with a tunnel; one by Wi-Fi; one that never trusted this Mac; one that does not tell the

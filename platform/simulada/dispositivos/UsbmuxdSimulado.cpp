@@ -57,13 +57,6 @@ std::optional<std::uint16_t> puertoDe(const PeticionPlist &peticion)
     return static_cast<std::uint16_t>((*numero & 0xff) << 8 | *numero >> 8);
 }
 
-std::string carpetaNueva()
-{
-    std::string plantilla = fs::temp_directory_path().native() + "/ovanta-usbmuxd.XXXXXX";
-    if (!::mkdtemp(plantilla.data())) lanzarErrno(errno);
-    return plantilla;
-}
-
 DiccionarioPlist fichaDe(const OpcionesDispositivo &opciones)
 {
     DiccionarioPlist propiedades{{"DeviceID", opciones.identificador}};
@@ -84,19 +77,22 @@ DiccionarioPlist fichaDe(const OpcionesDispositivo &opciones)
 
 } // namespace
 
-UsbmuxdSimulado::UsbmuxdSimulado(Dispositivos dispositivos, Opciones opciones)
-    : m_dispositivos(std::move(dispositivos)), m_opciones(std::move(opciones)), m_carpeta(carpetaNueva()),
-      m_ruta(m_carpeta + "/usbmuxd")
+UsbmuxdSimulado::Carpeta::Carpeta() : ruta(fs::temp_directory_path().native() + "/ovanta-usbmuxd.XXXXXX")
 {
-    m_servidor = std::make_unique<ServidorSimulado>(escucharEnRuta(m_ruta),
-                                                    [this](EnchufeSimulado &enchufe) { conversar(enchufe); });
+    if (!::mkdtemp(ruta.data())) lanzarErrno(errno);
 }
 
-UsbmuxdSimulado::~UsbmuxdSimulado()
+UsbmuxdSimulado::Carpeta::~Carpeta()
 {
-    m_servidor.reset();
     std::error_code error; // the system clears its temporary folder anyway
-    fs::remove_all(m_carpeta, error);
+    fs::remove_all(ruta, error);
+}
+
+UsbmuxdSimulado::UsbmuxdSimulado(Dispositivos dispositivos, Opciones opciones)
+    : m_dispositivos(std::move(dispositivos)), m_opciones(std::move(opciones)),
+      m_ruta(m_carpeta.ruta + "/usbmuxd"),
+      m_servidor(escucharEnRuta(m_ruta), [this](EnchufeSimulado &enchufe) { conversar(enchufe); })
+{
 }
 
 void UsbmuxdSimulado::conversar(EnchufeSimulado &enchufe)

@@ -25,9 +25,6 @@ public:
     /// Throws `std::system_error`.
     explicit UsbmuxdSimulado(Dispositivos dispositivos) : UsbmuxdSimulado(std::move(dispositivos), {}) {}
     UsbmuxdSimulado(Dispositivos dispositivos, Opciones opciones);
-    ~UsbmuxdSimulado();
-    UsbmuxdSimulado(const UsbmuxdSimulado &) = delete;
-    UsbmuxdSimulado &operator=(const UsbmuxdSimulado &) = delete;
 
     /// Path of the socket.
     const std::string &ruta() const { return m_ruta; }
@@ -36,6 +33,16 @@ public:
     const DiarioSimulado &diario() const { return m_diario; }
 
 private:
+    /// Made for this object alone, and gone with it.
+    struct Carpeta
+    {
+        Carpeta();
+        ~Carpeta();
+        Carpeta(const Carpeta &) = delete;
+        Carpeta &operator=(const Carpeta &) = delete;
+
+        std::string ruta;
+    };
     struct Mensaje
     {
         std::uint32_t etiqueta;
@@ -54,9 +61,9 @@ private:
     Dispositivos m_dispositivos;
     Opciones m_opciones;
     DiarioSimulado m_diario;
-    std::string m_carpeta;
+    Carpeta m_carpeta;
     std::string m_ruta;
-    std::unique_ptr<ServidorSimulado> m_servidor;
+    ServidorSimulado m_servidor; ///< the last member: its threads see the others
 };
 
 } // namespace ovanta
