@@ -1,5 +1,6 @@
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace ovanta {
@@ -7,5 +8,8 @@ namespace ovanta {
 /// Whether the bytes are well-formed UTF-8 (Unicode 15, table 3-7: no overlong forms, no surrogates,
 /// nothing above U+10FFFF). NUL is a character like any other.
 bool esUtf8(std::string_view bytes);
+
+/// Adds a code point up to U+10FFFF that is no surrogate.
+void anadirUtf8(std::string &texto, char32_t letra);
 
 } // namespace ovanta

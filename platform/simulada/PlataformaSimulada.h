@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/ConexionesPosix.h"
 #include "platform/Plataforma.h"
 #include "platform/simulada/AccesoArchivosSimulado.h"
 #include "platform/simulada/AplicacionesSimuladas.h"
@@ -17,6 +18,7 @@
 #include "platform/simulada/SensoresSimulados.h"
 #include "platform/simulada/SesionSimulada.h"
 #include "platform/simulada/VolumenSimulado.h"
+#include "platform/simulada/dispositivos/HogarDeDispositivos.h"
 
 namespace ovanta {
 
@@ -72,6 +74,7 @@ public:
     SesionSimulada &procesos() override { return m_sesion; }
     SesionSimulada &aplicacionesEnMarcha() override { return m_sesion; }
     ReinicioSimulado &reinicio() override { return m_reinicio; }
+    Conexiones &conexiones() override { return m_conexiones; }
 
 private:
     RegistroMutaciones m_registro;
@@ -100,6 +103,9 @@ private:
     MemoriaSimulada m_memoria{m_reloj};
     SesionSimulada m_sesion{m_reloj, m_registro};
     ReinicioSimulado m_reinicio{m_herramientas};
+    HogarDeDispositivos m_dispositivos;
+    ConexionesPosix m_enchufes;
+    ConexionesSimuladas m_conexiones{m_enchufes, m_dispositivos};
 };
 
 } // namespace ovanta
