@@ -8,6 +8,7 @@
 #include "platform/AplicacionesEnMarcha.h"
 #include "platform/Archivos.h"
 #include "platform/Bateria.h"
+#include "platform/Conexiones.h"
 #include "platform/Contadores.h"
 #include "platform/DialogoCritico.h"
 #include "platform/GestorArchivos.h"
@@ -60,6 +61,7 @@ public:
     virtual Procesos &procesos() = 0;
     virtual AplicacionesEnMarcha &aplicacionesEnMarcha() = 0;
     virtual Reinicio &reinicio() = 0;
+    virtual Conexiones &conexiones() = 0;
 };
 
 } // namespace ovanta

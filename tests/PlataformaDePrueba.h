@@ -316,6 +316,20 @@ struct BateriaDePrueba final : Bateria
     }
 };
 
+/// Nobody listens anywhere.
+struct ConexionesDePrueba final : Conexiones
+{
+    std::string rutaUsbmuxd() const override { return "/no/hay/usbmuxd"; }
+    Resultado abrirUnix(const std::string &, const Plazo &) override
+    {
+        return std::unexpected(Fallo::sinRespuesta);
+    }
+    Resultado abrirTcp6(const std::string &, std::uint16_t, std::chrono::milliseconds, const Plazo &) override
+    {
+        return std::unexpected(Fallo::sinRespuesta);
+    }
+};
+
 /// A whole platform of fakes whose members a test reads and sets directly.
 struct PlataformaDePrueba : Plataforma
 {
@@ -345,6 +359,7 @@ struct PlataformaDePrueba : Plataforma
     ProcesosDePrueba m_procesos;
     AplicacionesEnMarchaDePrueba m_enMarcha;
     ReinicioDePrueba m_reinicio;
+    ConexionesDePrueba m_conexiones;
 
     const Lugares &lugares() const override { return m_lugares; }
     Preferencias &preferencias() override { return m_preferencias; }
@@ -371,6 +386,7 @@ struct PlataformaDePrueba : Plataforma
     Procesos &procesos() override { return m_procesos; }
     AplicacionesEnMarcha &aplicacionesEnMarcha() override { return m_enMarcha; }
     Reinicio &reinicio() override { return m_reinicio; }
+    Conexiones &conexiones() override { return m_conexiones; }
 };
 
 } // namespace ovanta::pruebas

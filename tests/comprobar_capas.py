@@ -12,13 +12,14 @@ ANALISIS = ("analysis", "monitors", "devices", "developer")
 # Folder -> folders it may include, besides itself. A store among them may also include core/qt.
 PISOS = {
     "core": {"platform"},  # the stores of core only; see CORE_PURO
+    "core/plist": {"core"},
     "core/qt": {"core"},
     "platform": {"core"},
-    "platform/linux": {"core", "core/qt", "platform"},
-    "platform/simulada": {"core", "core/qt", "platform"},
-    **{carpeta: {"core", "core/qt", "platform"} for carpeta in ANALISIS},
-    "automation": {"core", "core/qt", "platform", "monitors"},
-    "app": {"core", "core/qt", "platform", *ANALISIS, "automation"},
+    "platform/linux": {"core", "core/plist", "core/qt", "platform"},
+    "platform/simulada": {"core", "core/plist", "core/qt", "platform"},
+    **{carpeta: {"core", "core/plist", "core/qt", "platform"} for carpeta in ANALISIS},
+    "automation": {"core", "core/plist", "core/qt", "platform", "monitors"},
+    "app": {"core", "core/plist", "core/qt", "platform", *ANALISIS, "automation"},
     "ui": {"core", "core/qt", "platform", *ANALISIS, "automation", "app", "ui/componentes"},
     "ui/componentes": {"core", "core/qt", "platform", "app"},
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "core/qt/PreferenciasQt.h"
+#include "platform/ConexionesPosix.h"
 #include "platform/Plataforma.h"
 #include "platform/linux/AccesoArchivosLinux.h"
 #include "platform/linux/AnfitrionBandejaLinux.h"
@@ -61,6 +62,7 @@ public:
     Procesos &procesos() override { return m_procesos; }
     AplicacionesEnMarcha &aplicacionesEnMarcha() override { return m_aplicacionesEnMarcha; }
     Reinicio &reinicio() override { return m_reinicio; }
+    Conexiones &conexiones() override { return m_conexiones; }
 
 private:
     EntornoLugares m_entorno;
@@ -91,6 +93,7 @@ private:
     ProcesosLinux m_procesos{m_fotografo};
     AplicacionesEnMarchaLinux m_aplicacionesEnMarcha;
     ReinicioLinux m_reinicio = ReinicioLinux::delEntorno();
+    ConexionesPosix m_conexiones;
 };
 
 } // namespace ovanta

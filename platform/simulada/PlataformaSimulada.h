@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/ConexionesPosix.h"
 #include "platform/Plataforma.h"
 #include "platform/simulada/AccesoArchivosSimulado.h"
 #include "platform/simulada/AplicacionesSimuladas.h"
@@ -72,6 +73,7 @@ public:
     SesionSimulada &procesos() override { return m_sesion; }
     SesionSimulada &aplicacionesEnMarcha() override { return m_sesion; }
     ReinicioSimulado &reinicio() override { return m_reinicio; }
+    Conexiones &conexiones() override { return m_conexiones; }
 
 private:
     RegistroMutaciones m_registro;
@@ -100,6 +102,7 @@ private:
     MemoriaSimulada m_memoria{m_reloj};
     SesionSimulada m_sesion{m_reloj, m_registro};
     ReinicioSimulado m_reinicio{m_herramientas};
+    ConexionesPosix m_conexiones{m_casa.hogar() + "/usbmuxd"};
 };
 
 } // namespace ovanta
