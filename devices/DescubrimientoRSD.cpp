@@ -9,7 +9,7 @@ namespace ovanta {
 
 namespace {
 
-constexpr std::uint32_t raiz = 1;      // the stream of the messages
+constexpr std::uint32_t raiz = 1;       // the stream of the messages
 constexpr std::uint32_t respuestas = 3; // the stream that the device answers on
 
 std::optional<std::uint16_t> puertoDe(std::string_view texto)
@@ -80,7 +80,8 @@ std::expected<DescubrimientoRSD::Paso, ErrorIOS> DescubrimientoRSD::recibir(cons
         pendiente.append(carga);
         return Paso{.respuesta = {}, .servicios = tomarMensajes(pendiente)};
     }
-    default: return Paso{};
+    default:
+        return Paso{};
     }
 }
 

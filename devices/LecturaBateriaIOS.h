@@ -17,8 +17,8 @@ struct LecturaBateriaIOS
     std::optional<std::string> marketing; ///< name of the model; by CoreDevice only
     std::optional<std::string> clase;     ///< as "iPhone"
     std::optional<std::string> version;
-    std::string transporte;    ///< "cable" or "Wi-Fi"
-    DiccionarioPlist registro; ///< the battery's entry in the device's IORegistry; not empty
+    std::string transporte;                 ///< "cable" or "Wi-Fi"
+    DiccionarioPlist registro;              ///< the battery's entry in the device's IORegistry; not empty
     std::optional<std::int64_t> porcentaje; ///< by usbmuxd only
     std::optional<bool> cargando;           ///< by usbmuxd only
 

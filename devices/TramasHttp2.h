@@ -20,7 +20,7 @@ enum Tipo : std::uint8_t {
     ventana = 0x8,
 };
 
-inline constexpr std::uint8_t flagAck = 0x1;           ///< of `ajustes`
+inline constexpr std::uint8_t flagAck = 0x1;            ///< of `ajustes`
 inline constexpr std::uint8_t flagFinDeCabeceras = 0x4; ///< of `cabeceras`
 
 /// The nine bytes before a payload.

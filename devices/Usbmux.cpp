@@ -48,8 +48,8 @@ Resultado<Emparejamiento> leerEmparejamiento(const Lectura &lectura)
 {
     auto conexion = abrir(lectura);
     if (!conexion) return std::unexpected(conexion.error());
-    const auto respuesta = peticion(
-        *conexion, {{"MessageType", "ReadPairRecord"}, {"PairRecordID", lectura.dispositivo.udid}});
+    const auto respuesta =
+        peticion(*conexion, {{"MessageType", "ReadPairRecord"}, {"PairRecordID", lectura.dispositivo.udid}});
     if (!respuesta) return std::unexpected(respuesta.error());
     return emparejamientoDe(*respuesta);
 }
@@ -175,8 +175,7 @@ std::expected<LecturaBateriaIOS, ErrorIOS> leer(Conexiones &conexiones, const Di
     if (!registro) return std::unexpected(registro.error());
     ficha.registro = *std::move(registro);
     // The figures are here: a device that does not take leave changes nothing.
-    static_cast<void>(
-        sesion->lockdown.peticion({{"Request", "StopSession"}, {"SessionID", sesion->id}}));
+    static_cast<void>(sesion->lockdown.peticion({{"Request", "StopSession"}, {"SessionID", sesion->id}}));
     return ficha;
 }
 
