@@ -91,4 +91,17 @@ std::string repararUtf8(std::string_view bytes)
     return reparado;
 }
 
+void anadirUtf8(std::string &texto, char32_t letra)
+{
+    if (letra < 0x80) {
+        texto += static_cast<char>(letra);
+        return;
+    }
+    const int colas = letra < 0x800 ? 1 : letra < 0x10000 ? 2 : 3;
+    constexpr char32_t cabezas[] = {0, 0xC0, 0xE0, 0xF0};
+    texto += static_cast<char>(cabezas[colas] | letra >> (6 * colas));
+    for (int i = colas - 1; i >= 0; --i)
+        texto += static_cast<char>(0x80 | (letra >> (6 * i) & 0x3F));
+}
+
 } // namespace ovanta

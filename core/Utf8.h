@@ -13,4 +13,7 @@ bool esUtf8(std::string_view bytes);
 /// does not (Unicode 15, section 3.9). At most three times as long.
 std::string repararUtf8(std::string_view bytes);
 
+/// Adds a code point up to U+10FFFF that is no surrogate.
+void anadirUtf8(std::string &texto, char32_t letra);
+
 } // namespace ovanta

@@ -4,22 +4,22 @@
 
 using ovanta::ErrorIOS;
 
-TEST(ErrorIOS, tells_a_fault_of_the_socket_as_one_of_the_connection)
+TEST(ErrorIOS, tellsAFaultOfTheSocketAsOneOfTheConnection)
 {
     EXPECT_EQ(ErrorIOS::socket("usbmuxd no responde").errorDescription(), "Conexión: usbmuxd no responde");
 }
 
-TEST(ErrorIOS, tells_a_fault_of_the_protocol_as_it_stands)
+TEST(ErrorIOS, tellsAFaultOfTheProtocolAsItStands)
 {
     EXPECT_EQ(ErrorIOS::protocolo("respuesta ilegible").errorDescription(), "respuesta ilegible");
 }
 
-TEST(ErrorIOS, tells_a_fault_of_the_cipher_with_its_status)
+TEST(ErrorIOS, tellsAFaultOfTheCipherWithItsStatus)
 {
     EXPECT_EQ(ErrorIOS::tls("lectura", -9803).errorDescription(), "Cifrado: lectura (-9803)");
 }
 
-TEST(ErrorIOS, passes_another_error_on_as_it_came)
+TEST(ErrorIOS, passesAnotherErrorOnAsItCame)
 {
     EXPECT_EQ(ErrorIOS::otro("No se pudo leer").errorDescription(), "No se pudo leer");
 }

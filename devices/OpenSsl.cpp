@@ -1,0 +1,22 @@
+#include "devices/OpenSsl.h"
+
+#include <openssl/err.h>
+
+namespace ovanta {
+
+ColaDeErrores::ColaDeErrores()
+{
+    ERR_clear_error();
+}
+
+ColaDeErrores::~ColaDeErrores()
+{
+    ERR_clear_error();
+}
+
+std::int32_t ColaDeErrores::motivo() const
+{
+    return ERR_GET_REASON(ERR_peek_error());
+}
+
+} // namespace ovanta
