@@ -5,7 +5,7 @@
 #include "devices/CanalTLS.h"
 #include "devices/DerPem.h"
 
-#include <array>
+#include <span>
 
 namespace ovanta {
 
@@ -125,8 +125,10 @@ ConexionIOS::Resultado<void> ConexionIOS::escribirCrudo(std::string_view bytes)
 
 ConexionIOS::Resultado<std::string> ConexionIOS::leerCrudo(std::size_t cuantos)
 {
-    return llenar(cuantos, [this](std::span<char> lugar) {
-        return m_canal->recibir(lugar).transform_error(falloAlLeer);
+    return llenar(cuantos, [this](std::span<char> lugar) -> Resultado<std::size_t> {
+        const auto recibidos = m_canal->recibir(lugar);
+        if (!recibidos) return std::unexpected(falloAlLeer(recibidos.error()));
+        return *recibidos;
     });
 }
 
