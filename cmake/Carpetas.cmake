@@ -1,10 +1,14 @@
-# ovanta_carpeta(FOLDER [SIN_QT] [ENLAZA target...])
-# Makes the object library of one source folder out of every .cpp and .h in it
-# (not below it). Without SIN_QT it gets moc. An empty folder makes an empty library.
+# ovanta_carpeta(FOLDER [SIN_QT] [SUBCARPETAS name...] [ENLAZA target...])
+# Makes the object library of one source folder out of every .cpp and .h in it and in
+# the named folders below it. Without SIN_QT it gets moc. An empty folder makes an empty library.
 function(ovanta_carpeta carpeta)
-  cmake_parse_arguments(A "SIN_QT" "" "ENLAZA" ${ARGN})
+  cmake_parse_arguments(A "SIN_QT" "" "SUBCARPETAS;ENLAZA" ${ARGN})
   string(REPLACE "/" "_" nombre "ovanta_${carpeta}")
   file(GLOB fuentes CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/${carpeta}/*.cpp ${CMAKE_SOURCE_DIR}/${carpeta}/*.h)
+  foreach(sub ${A_SUBCARPETAS})
+    file(GLOB mas CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/${carpeta}/${sub}/*.cpp ${CMAKE_SOURCE_DIR}/${carpeta}/${sub}/*.h)
+    list(APPEND fuentes ${mas})
+  endforeach()
   set(cpps ${fuentes})
   list(FILTER cpps INCLUDE REGEX "\\.cpp$")
   if(NOT cpps)

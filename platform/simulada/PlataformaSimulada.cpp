@@ -49,7 +49,10 @@ PlataformaSimulada::PlataformaSimulada(const Opciones &opciones)
 {
     m_herramientas.programar("osascript", [](const auto &) { return std::string{}; });
     m_apariencia.fijar(opciones.apariencia);
-    m_herramientas.programar("xcrun", responderXcrun);
+    m_herramientas.programar("xcrun", [this](const std::vector<std::string> &args) {
+        return DevicectlSimulado::entiende(args) ? m_dispositivos.devicectl().responder(args)
+                                                 : responderXcrun(args);
+    });
     m_casa.amueblar(rutasDelCatalogo(m_lugares.catalogo), m_reloj.ahora());
 }
 

@@ -18,6 +18,7 @@
 #include "platform/simulada/SensoresSimulados.h"
 #include "platform/simulada/SesionSimulada.h"
 #include "platform/simulada/VolumenSimulado.h"
+#include "platform/simulada/dispositivos/HogarDeDispositivos.h"
 
 namespace ovanta {
 
@@ -102,7 +103,9 @@ private:
     MemoriaSimulada m_memoria{m_reloj};
     SesionSimulada m_sesion{m_reloj, m_registro};
     ReinicioSimulado m_reinicio{m_herramientas};
-    ConexionesPosix m_conexiones{m_casa.hogar() + "/usbmuxd"};
+    HogarDeDispositivos m_dispositivos;
+    ConexionesPosix m_enchufes;
+    ConexionesSimuladas m_conexiones{m_enchufes, m_dispositivos};
 };
 
 } // namespace ovanta
