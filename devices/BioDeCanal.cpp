@@ -18,8 +18,7 @@ int escribir(BIO *bio, const char *bytes, int cuantos)
     EnlaceDeCanal &enlace = enlaceDe(bio);
     const auto enviados = enlace.canal->enviar({bytes, static_cast<std::size_t>(cuantos)});
     if (enviados) return static_cast<int>(*enviados);
-    enlace.estado = estadoAbortado;
-    enlace.vencido = enviados.error() == Canal::Fallo::vencido;
+    enlace.recordar(estadoAbortado, enviados.error() == Canal::Fallo::vencido);
     return -1;
 }
 
@@ -32,19 +31,17 @@ int leer(BIO *bio, char *lugar, int cuantos)
     if (recibidos) return static_cast<int>(*recibidos);
     switch (recibidos.error()) {
     case Canal::Fallo::cerrado:
-        enlace.estado = estadoCerrado;
+        enlace.recordar(estadoCerrado, false);
         return 0;
     case Canal::Fallo::silencio:
-        enlace.estado = estadoSilencio;
+        enlace.recordar(estadoSilencio, false);
         BIO_set_retry_read(bio);
         return -1;
     case Canal::Fallo::vencido:
-        enlace.vencido = true;
-        break;
     case Canal::Fallo::sistema:
         break;
     }
-    enlace.estado = estadoAbortado;
+    enlace.recordar(estadoAbortado, recibidos.error() == Canal::Fallo::vencido);
     return -1;
 }
 

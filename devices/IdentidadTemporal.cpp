@@ -72,7 +72,7 @@ IdentidadTemporal::~IdentidadTemporal() = default;
 std::expected<IdentidadTemporal, ErrorIOS> IdentidadTemporal::crear(std::string_view certificadoPEM,
                                                                     std::string_view clavePEM)
 {
-    const ColaDeErrores cola;
+    const ColaDeErrores alLeer;
     const auto certificadoDer = derDesdePem(certificadoPEM);
     const Secreto pkcs8{derDesdePem(clavePEM)};
     const Secreto interior{pkcs8 ? pkcs1(*pkcs8) : std::nullopt};
@@ -81,11 +81,13 @@ std::expected<IdentidadTemporal, ErrorIOS> IdentidadTemporal::crear(std::string_
     if (!pareja->certificado || !interior)
         return std::unexpected(ErrorIOS::protocolo("emparejamiento con certificados ilegibles"));
     pareja->clave = leerClave(*interior, *pkcs8);
-    if (!pareja->clave) return std::unexpected(ErrorIOS::tls("importar", cola.motivo()));
+    if (!pareja->clave) return std::unexpected(ErrorIOS::tls("importar", alLeer.motivo()));
     if (EVP_PKEY_get_bits(pareja->clave.get()) > maximoBits)
         return std::unexpected(ErrorIOS::tls("importar", RSA_R_MODULUS_TOO_LARGE));
+    // What was tried in vain until the key was read is no error.
+    const ColaDeErrores alUnir;
     if (X509_check_private_key(pareja->certificado.get(), pareja->clave.get()) != 1)
-        return std::unexpected(ErrorIOS::tls("crear identidad", cola.motivo()));
+        return std::unexpected(ErrorIOS::tls("crear identidad", alUnir.motivo()));
     return IdentidadTemporal{std::move(pareja)};
 }
 

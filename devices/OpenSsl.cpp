@@ -16,7 +16,8 @@ ColaDeErrores::~ColaDeErrores()
 
 std::int32_t ColaDeErrores::motivo() const
 {
-    return ERR_GET_REASON(ERR_peek_error());
+    // Above the number itself stand flags.
+    return ERR_GET_REASON(ERR_peek_error()) & ((1 << ERR_RFLAGS_OFFSET) - 1);
 }
 
 } // namespace ovanta

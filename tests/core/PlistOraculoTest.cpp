@@ -49,7 +49,7 @@ ValorPlist leida(const std::string &bytes)
 TEST(PlistOraculo, whatWeWriteComesBackTheSameThroughTheOtherLibrarysBinaryFormat)
 {
     const OtroLector otro;
-    for (unsigned semilla = 0; semilla < 150; ++semilla) {
+    for (unsigned semilla = 0; semilla < 60; ++semilla) {
         const ValorPlist valor = ArbolPlist{semilla}.diccionario(6);
         const auto binaria = otro.convertir(xmlDe(valor), "bin");
         ASSERT_TRUE(binaria.starts_with("bplist00"));
@@ -60,7 +60,7 @@ TEST(PlistOraculo, whatWeWriteComesBackTheSameThroughTheOtherLibrarysBinaryForma
 TEST(PlistOraculo, weReadTheOtherLibrarysXmlAsItWasMeant)
 {
     const OtroLector otro;
-    for (unsigned semilla = 1000; semilla < 1100; ++semilla) {
+    for (unsigned semilla = 1000; semilla < 1040; ++semilla) {
         const ValorPlist valor = ArbolPlist{semilla}.diccionario(6);
         const auto binaria = otro.convertir(xmlDe(valor), "bin");
         const auto xml = otro.convertir(binaria, "xml");

@@ -10,11 +10,11 @@ namespace ovanta::pruebas {
 /// What a device said, written down beforehand, and what was said to it.
 struct Guion
 {
-    std::string llegada;                                 ///< what can be received
+    std::string llegada = {};                            ///< what can be received
     std::size_t porVez = std::string::npos;              ///< at most so much at once
     Canal::Fallo alFinal = Canal::Fallo::cerrado;        ///< how receiving fails then
     std::optional<Canal::Fallo> alEnviar = std::nullopt; ///< how sending fails
-    std::string enviado;
+    std::string enviado = {};
     std::chrono::milliseconds esperaRecibir{0}, esperaEnviar{0};
 };
 

@@ -7,7 +7,7 @@
 
 namespace ovanta::pruebas {
 
-/// The other end of a TLS channel, in the same thread and without a socket: it answers while it is written
+/// The other end of a TLS channel, without a socket: it answers while it is written
 /// to and read from.
 class DispositivoTLS final : public Canal
 {
