@@ -20,7 +20,7 @@ using testing::SizeIs;
 
 namespace {
 
-const Plazo sobrado{60s};
+const Plazo sobrado{24h};
 const std::string servicio = "com.apple.mobile.diagnostics_relay.shim.remote";
 const std::string sinDatos = "Xcode no devolvió datos del dispositivo.";
 const std::string sinTunel =

@@ -14,7 +14,7 @@ using testing::Pair;
 
 namespace {
 
-const Plazo sobrado{60s};
+const Plazo sobrado{24h};
 const ErrorIOS agotado =
     ErrorIOS::protocolo("El dispositivo no respondió. Desbloquéalo y pulsa «Buscar de nuevo».");
 

@@ -16,7 +16,7 @@ using testing::StartsWith;
 namespace {
 
 const Usbmux::Dispositivo porCable{.id = 7, .udid = "00008110-1", .porRed = false};
-const Plazo sobrado{60s};
+const Plazo sobrado{24h};
 
 struct UsbmuxTest : testing::Test
 {
