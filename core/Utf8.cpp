@@ -41,6 +41,18 @@ std::size_t largoCaracter(std::string_view bytes)
     return s.largo;
 }
 
+/// Bytes at the start of `bytes`, which begin no character, that could still have been one: at least 1.
+std::size_t largoRoto(std::string_view bytes)
+{
+    const auto byte = [bytes](std::size_t i) { return static_cast<unsigned char>(bytes[i]); };
+    const Secuencia s = secuenciaDe(byte(0));
+    if (s.largo <= 1 || bytes.size() < 2 || byte(1) < s.segundoMin || byte(1) > s.segundoMax) return 1;
+    std::size_t i = 2;
+    while (i < bytes.size() && i < s.largo && (byte(i) & 0xC0) == 0x80)
+        ++i;
+    return i;
+}
+
 /// Tools print ASCII nearly always, and sometimes a gigabyte of it: eight bytes at a time.
 std::size_t prefijoAscii(std::string_view bytes)
 {
@@ -64,6 +76,19 @@ bool esUtf8(std::string_view bytes)
         bytes.remove_prefix(largo);
     }
     return true;
+}
+
+std::string repararUtf8(std::string_view bytes)
+{
+    std::string reparado;
+    reparado.reserve(bytes.size());
+    while (!bytes.empty()) {
+        const std::size_t entero = largoCaracter(bytes);
+        const std::size_t tomados = entero == 0 ? largoRoto(bytes) : entero;
+        reparado += entero == 0 ? std::string_view("\xEF\xBF\xBD") : bytes.substr(0, entero);
+        bytes.remove_prefix(tomados);
+    }
+    return reparado;
 }
 
 void anadirUtf8(std::string &texto, char32_t letra)

@@ -35,3 +35,22 @@ TEST(Utf8, aBadByteIsFoundAtEveryOffset)
         EXPECT_FALSE(esUtf8(texto)) << i;
     }
 }
+
+TEST(Utf8, repairingLeavesGoodTextAlone)
+{
+    for (const std::string &texto : {""s, "a"s, "\0nul\0"s, "ocho letras y más"s, "😀"s})
+        EXPECT_EQ(repararUtf8(texto), texto);
+}
+
+TEST(Utf8, eachPieceThatCouldHaveBegunACharacterIsReplacedOnce)
+{
+    const std::string signo = "\ufffd";
+    EXPECT_EQ(repararUtf8("a\xffz"), "a" + signo + "z");
+    EXPECT_EQ(repararUtf8("\xe2\x82"), signo);
+    EXPECT_EQ(repararUtf8("\xe2\x82\x41"), signo + "A");
+    EXPECT_EQ(repararUtf8("\xf0\x9f\x98\xc3\xb1"), signo + "ñ");
+    EXPECT_EQ(repararUtf8("\xc0\x80"), signo + signo);
+    EXPECT_EQ(repararUtf8("\xed\xa0\x80"), signo + signo + signo);
+    EXPECT_EQ(repararUtf8("\xf4\x90\x80\x80"), signo + signo + signo + signo);
+    EXPECT_EQ(repararUtf8("\xf0\x9f\x98\xff"), signo + signo);
+}
