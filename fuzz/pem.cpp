@@ -1,6 +1,7 @@
 #include "devices/DerPem.h"
 #include "devices/IdentidadTemporal.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
