@@ -14,5 +14,6 @@ int bancoProc(int argc, char **argv);
 int bancoTicks(int argc, char **argv);
 int bancoXpc(int argc, char **argv);
 int bancoPuertos(int argc, char **argv);
+int bancoPlist(int argc, char **argv);
 
 } // namespace ovanta

@@ -18,6 +18,7 @@ constexpr Verbo verbos[] = {
     {"dups", ovanta::bancoDups},         {"walk", ovanta::bancoWalk},
     {"proc", ovanta::bancoProc},         {"ticks", ovanta::bancoTicks},
     {"xpc", ovanta::bancoXpc},           {"puertos", ovanta::bancoPuertos},
+    {"plist", ovanta::bancoPlist},
 };
 
 int explicarUso()
