@@ -18,18 +18,19 @@ using testing::SizeIs;
 class CaminosLargos : public testing::Test
 {
 protected:
-    void SetUp() override
-    {
-        Descriptor carpeta{::open(arbol.raiz().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
-        for (int i = 0; i < hondura; ++i) {
-            ASSERT_EQ(::mkdirat(carpeta.numero(), "nivel", 0700), 0);
-            carpeta = Descriptor{::openat(carpeta.numero(), "nivel", O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
-        }
-        fondo = std::move(carpeta);
-    }
+    void SetUp() override { cavar(std::string(200, 'n'), 25); }
     // The ordinary way to remove a tree cannot go this deep by path.
-    void TearDown() override { EXPECT_EQ(std::system(("rm -rf '" + arbol.en("nivel") + "'").c_str()), 0); }
+    void TearDown() override { EXPECT_EQ(std::system(("rm -rf '" + arbol.raiz() + "'").c_str()), 0); }
 
+    /// So many folders of that name, each in the one before.
+    void cavar(const std::string &nombre, int hondura)
+    {
+        fondo = Descriptor{::open(arbol.raiz().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
+        for (int i = 0; i < hondura; ++i) {
+            ASSERT_EQ(::mkdirat(fondo.numero(), nombre.c_str(), 0700), 0);
+            fondo = Descriptor{::openat(fondo.numero(), nombre.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)};
+        }
+    }
     void escribir(const char *nombre, std::string_view contenido) const
     {
         const Descriptor archivo{::openat(fondo.numero(), nombre, O_WRONLY | O_CREAT | O_CLOEXEC, 0600)};
@@ -41,7 +42,6 @@ protected:
         ASSERT_EQ(::linkat(fondo.numero(), nombre, fondo.numero(), otro, 0), 0);
     }
 
-    static constexpr int hondura = 4000;
     ArbolDeArchivos arbol;
     Descriptor fondo;
     AccesoConFallos acceso;
@@ -49,6 +49,8 @@ protected:
 
 TEST_F(CaminosLargos, theWalkReachesFoldersDeeperThanTheLongestPathAndTheirFilesCanBeRead)
 {
+    constexpr int hondura = 4000;
+    cavar("nivel", hondura);
     escribir("fondo", "uno");
     const ListaArchivos archivos = arbol.archivos();
     ASSERT_EQ(archivos.size(), 1U);
