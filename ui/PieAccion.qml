@@ -41,10 +41,8 @@ Rectangle {
                 simbolo: "checkmark.shield"
                 texto: "Todo va a la Papelera y puede recuperarse."
                 color: Tema.colores.verde
-            }
-            Item {
-                visible: !raiz.estado.moviendo
                 Layout.fillWidth: true
+                Layout.maximumWidth: Number.POSITIVE_INFINITY
             }
             Texto {
                 visible: raiz.seleccion !== "" && !raiz.estado.moviendo
