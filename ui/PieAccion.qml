@@ -42,7 +42,10 @@ Rectangle {
                 texto: "Todo va a la Papelera y puede recuperarse."
                 color: Tema.colores.verde
                 Layout.fillWidth: true
-                Layout.maximumWidth: Number.POSITIVE_INFINITY
+            }
+            Item {
+                visible: !raiz.estado.moviendo
+                Layout.fillWidth: true
             }
             Texto {
                 visible: raiz.seleccion !== "" && !raiz.estado.moviendo

@@ -1,5 +1,6 @@
 #include "analysis/Clasificar.h"
 #include "analysis/Duplicados.h"
+#include "core/Descriptor.h"
 #include "tests/analysis/AccesoConFallos.h"
 #include "tests/analysis/ArbolDeArchivos.h"
 

@@ -37,7 +37,8 @@ def repetidos(grupos):
 @unittest.skipUnless(PEDIDO, "solo con OVANTA_E2E_GRANDE")
 class UnHogarGrande(PruebaDeEscritorio):
     def cabeza(self, cuantos):
-        return f"{cuantos:,}".replace(",", ".") + " grupos · "
+        # Spanish parts no number below ten thousand.
+        return (f"{cuantos:,}".replace(",", ".") if cuantos >= 10_000 else str(cuantos)) + " grupos · "
 
     def analizar(self, pantalla):
         inicio = time.monotonic()

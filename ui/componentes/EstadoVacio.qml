@@ -36,7 +36,7 @@ ColumnLayout {
     Texto {
         Layout.alignment: Qt.AlignHCenter
         Layout.fillWidth: true
-        Layout.maximumWidth: 420
+        Layout.maximumWidth: 460
         text: raiz.mensaje
         color: Tema.colores.secundario
         wrapMode: Text.Wrap
