@@ -5,6 +5,8 @@
 #include "core/Rutas.h"
 #include "core/Uuid.h"
 
+#include <algorithm>
+#include <array>
 #include <exception>
 #include <functional>
 #include <map>
@@ -17,47 +19,26 @@ namespace {
 
 constexpr double limiteDeHerramienta = 240;
 constexpr std::size_t porLlamada = 200;
+constexpr std::array<std::string_view, 6> nombres{"node_modules", ".venv", "venv",
+                                                  "target",       ".next", "build"};
 
 /// Path to the folder's own name.
 using Tipos = std::map<std::string, std::string, std::less<>>;
 
 std::vector<std::string> argumentosDeFind(const std::string &hogar)
 {
-    return {hogar,
-            "-maxdepth",
-            "6",
-            "(",
-            "-path",
-            hogar + "/Library",
-            "-o",
-            "-path",
-            hogar + "/.Trash",
-            ")",
-            "-prune",
-            "-o",
-            "-type",
-            "d",
-            "(",
-            "-name",
-            "node_modules",
-            "-o",
-            "-name",
-            ".venv",
-            "-o",
-            "-name",
-            "venv",
-            "-o",
-            "-name",
-            "target",
-            "-o",
-            "-name",
-            ".next",
-            "-o",
-            "-name",
-            "build",
-            ")",
-            "-prune",
-            "-print"};
+    std::vector<std::string> argumentos{hogar,   "-maxdepth", "6",
+                                        "(",     "-path",     hogar + "/Library",
+                                        "-o",    "-path",     hogar + "/.Trash",
+                                        ")",     "-prune",    "-o",
+                                        "-type", "d",         "("};
+    for (const std::string_view nombre : nombres) {
+        if (nombre != nombres.front()) argumentos.emplace_back("-o");
+        argumentos.emplace_back("-name");
+        argumentos.emplace_back(nombre);
+    }
+    argumentos.insert(argumentos.end(), {")", "-prune", "-print"});
+    return argumentos;
 }
 
 /// What the tool printed; nothing where it could not be run or took too long.
@@ -81,12 +62,29 @@ void porLinea(std::string_view texto, Accion accion)
     }
 }
 
-Tipos tiposHallados(std::string_view salidaDeFind)
+/// Whether a line of the search is one of its folders. A name with a line break in it gives pieces that
+/// are not, and that could name anything.
+bool esDeLaBusqueda(std::string_view ruta, const std::string &hogar)
+{
+    return ruta.starts_with(hogar.ends_with('/') ? hogar : hogar + "/") &&
+           std::ranges::find(nombres, ultimoComponente(ruta)) != nombres.end();
+}
+
+/// What was thrown away is not to be found again.
+bool estaTirada(std::string_view ruta, const Lugares &lugares)
+{
+    if (ruta.contains("/.Trash/")) return true;
+    if (!lugares.papeleraDeVolumen.empty() && ruta.contains("/" + lugares.papeleraDeVolumen + "/"))
+        return true;
+    return std::ranges::any_of(lugares.papeleras,
+                               [&](const std::string &papelera) { return yaceEn(ruta, papelera); });
+}
+
+Tipos tiposHallados(std::string_view salidaDeFind, const Lugares &lugares)
 {
     Tipos tipos;
     porLinea(salidaDeFind, [&](std::string_view ruta) {
-        // What was thrown away is not to be found again; the last is where other desktops keep it.
-        if (ruta.contains("/Library/") || ruta.contains("/.Trash/") || ruta.contains("/.local/share/Trash/"))
+        if (!esDeLaBusqueda(ruta, lugares.hogar) || ruta.contains("/Library/") || estaTirada(ruta, lugares))
             return;
         tipos.emplace(ruta, ultimoComponente(ruta));
     });
@@ -107,13 +105,13 @@ void agregarMedidas(std::string_view salidaDeDu, const Tipos &tipos, std::vector
 
 } // namespace
 
-std::vector<CarpetaPesada> buscarCarpetas(Herramientas &herramientas, const std::string &hogar,
+std::vector<CarpetaPesada> buscarCarpetas(Herramientas &herramientas, const Lugares &lugares,
                                           const BanderaCancelacion *cancelacion)
 {
     if (cancelada(cancelacion)) return {};
-    const auto halladas = salida(herramientas, "/usr/bin/find", argumentosDeFind(hogar));
+    const auto halladas = salida(herramientas, "/usr/bin/find", argumentosDeFind(lugares.hogar));
     if (!halladas) return {};
-    const Tipos tipos = tiposHallados(*halladas);
+    const Tipos tipos = tiposHallados(*halladas, lugares);
     std::vector<CarpetaPesada> carpetas;
     for (auto siguiente = tipos.begin(); siguiente != tipos.end();) {
         if (cancelada(cancelacion)) return {};

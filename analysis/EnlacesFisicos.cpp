@@ -1,7 +1,8 @@
 #include "analysis/EnlacesFisicos.h"
 
+#include "core/AbrirCamino.h"
+
 #include <algorithm>
-#include <sys/stat.h>
 #include <tuple>
 
 namespace ovanta {
@@ -19,7 +20,7 @@ bool mismoArchivo(const ListaArchivos &lista, Numero a, Numero b)
 bool sigueAhi(const ListaArchivos &lista, Numero archivo)
 {
     struct stat atributos = {};
-    return ::lstat(lista.ruta(archivo).c_str(), &atributos) == 0 &&
+    return describirCamino(lista.ruta(archivo).c_str(), &atributos) == 0 &&
            atributos.st_ino == lista.inodo(archivo) && atributos.st_dev == lista.dispositivo(archivo);
 }
 

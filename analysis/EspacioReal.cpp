@@ -1,5 +1,6 @@
 #include "analysis/EspacioReal.h"
 
+#include "core/AbrirCamino.h"
 #include "core/Descriptor.h"
 #include "core/Tamano.h"
 
@@ -40,7 +41,7 @@ std::uint64_t espacioReal(const std::vector<std::string> &rutas, AccesoArchivos 
     std::map<Fisico, Visto> vistos;
     for (const std::string &ruta : rutas) {
         struct stat atributos = {};
-        if (::lstat(ruta.c_str(), &atributos) != 0 || !S_ISREG(atributos.st_mode)) continue;
+        if (describirCamino(ruta.c_str(), &atributos) != 0 || !S_ISREG(atributos.st_mode)) continue;
         ++vistos.try_emplace({atributos.st_dev, atributos.st_ino}, Visto{atributos, ruta, 0})
               .first->second.nombres;
     }

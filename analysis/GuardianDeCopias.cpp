@@ -1,6 +1,7 @@
 #include "analysis/GuardianDeCopias.h"
 
 #include "analysis/Nanosegundos.h"
+#include "core/AbrirCamino.h"
 
 #include <algorithm>
 #include <unordered_set>
@@ -11,7 +12,7 @@ namespace ovanta {
 bool sigueIgual(const ArchivoHallado &archivo)
 {
     struct stat atributos = {};
-    if (::lstat(archivo.ruta.c_str(), &atributos) != 0 || !S_ISREG(atributos.st_mode)) return false;
+    if (describirCamino(archivo.ruta.c_str(), &atributos) != 0 || !S_ISREG(atributos.st_mode)) return false;
     const std::string identidad = std::to_string(atributos.st_dev) + ":" + std::to_string(atributos.st_ino);
     return archivo.identidadFisica == identidad &&
            static_cast<std::uint64_t>(atributos.st_size) == archivo.bytes &&

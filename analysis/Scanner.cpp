@@ -24,6 +24,11 @@ bool esMinimo(double mebibytes)
     return mebibytes >= 0 && mebibytes <= maximoMB;
 }
 
+bool esNumero(const std::optional<Preferencias::Valor> &valor)
+{
+    return valor && (std::holds_alternative<double>(*valor) || std::holds_alternative<std::int64_t>(*valor));
+}
+
 bool sonDias(std::int64_t dias)
 {
     return dias > 0 && dias <= maximoDias;
@@ -48,9 +53,9 @@ void Scanner::leerPreferencias()
     Preferencias &preferencias = m_plataforma.preferencias();
     preferencias.registrar(claveMinimo, m_minimoMB);
     preferencias.registrar(claveDias, std::int64_t{m_diasDescargas});
-    const double minimo = preferencias.real(claveMinimo);
+    const double minimo = preferencias.real(claveMinimo); // what cannot be read reads as 0
     const std::int64_t dias = preferencias.entero(claveDias);
-    if (minimo > 0 && esMinimo(minimo)) m_minimoMB = minimo; // what cannot be read reads as 0
+    if (esNumero(preferencias.leer(claveMinimo)) && esMinimo(minimo)) m_minimoMB = minimo;
     if (sonDias(dias)) m_diasDescargas = static_cast<int>(dias);
 }
 

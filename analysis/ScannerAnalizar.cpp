@@ -30,12 +30,15 @@ Recorrido recorridoDe(const Scanner &scanner, Plataforma &plataforma)
 {
     const auto seguridad = std::make_shared<const Seguridad>(crearSeguridad(plataforma));
     auto proteccionesUsuario = seguridad->proteccionesUsuario();
+    const std::vector<std::string> &papeleras = plataforma.lugares().papeleras;
+    const ConjuntoRutas tirado(papeleras.begin(), papeleras.end());
     Recorrido recorrido;
     recorrido.raices = bajo(plataforma.lugares().hogar, scanner.raices());
     recorrido.minimo = static_cast<std::uint64_t>(scanner.minimoMB() * bytesPorMebibyte);
     recorrido.ignorados = NombresIgnorados::deAnalisis();
-    recorrido.estaProtegida = [seguridad, proteccionesUsuario](const std::string &ruta) {
-        return seguridad->esRutaProtegidaParaAnalisis(ruta, proteccionesUsuario);
+    recorrido.estaProtegida = [seguridad, proteccionesUsuario, tirado](const std::string &ruta) {
+        return yaceEnAlguna(ruta, tirado) ||
+               seguridad->esRutaProtegidaParaAnalisis(ruta, proteccionesUsuario);
     };
     return recorrido;
 }
@@ -69,9 +72,9 @@ QCoro::Task<> Scanner::analizar()
     empezar();
     const auto cancelacion = m_cancelacion;
     AccesoArchivos &acceso = m_plataforma.accesoArchivos();
-    const std::string hogar = m_plataforma.lugares().hogar;
-    const CriterioDescargas criterio{bajo(hogar, m_plataforma.lugares().descargas),
-                                     m_plataforma.reloj().ahora(), m_diasDescargas};
+    const Lugares &lugares = m_plataforma.lugares();
+    const CriterioDescargas criterio{bajo(lugares.hogar, lugares.descargas), m_plataforma.reloj().ahora(),
+                                     m_diasDescargas};
 
     auto recorrerlo = [recorrido = recorridoDe(*this, m_plataforma), &acceso, cancelacion,
                        aviso = alAvanzar()] {
@@ -104,9 +107,9 @@ QCoro::Task<> Scanner::analizar()
     publicarDuplicados(std::move(**clasificados));
 
     fijarProgreso(QStringLiteral("Buscando carpetas de dependencias…"));
-    auto pesadas = [&herramientas = m_plataforma.herramientas(), hogar, cancelacion] {
+    auto pesadas = [&herramientas = m_plataforma.herramientas(), lugares, cancelacion] {
         return std::make_shared<std::vector<CarpetaPesada>>(
-            buscarCarpetas(herramientas, hogar, cancelacion.get()));
+            buscarCarpetas(herramientas, lugares, cancelacion.get()));
     };
     auto buscadas = etapa(std::move(pesadas));
     const auto carpetas = co_await buscadas;

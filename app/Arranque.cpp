@@ -5,6 +5,7 @@
 #include "app/Residente.h"
 #include "app/SenalesDeFin.h"
 #include "core/Ejecutar.h"
+#include "core/SoltarConexiones.h"
 #include "core/qt/SegundoPlano.h"
 
 #include <QApplication>
@@ -30,7 +31,10 @@ int vivir(Plataforma &plataforma)
     detenerHerramientas();
     // A thread can be stuck in a call to a dead network disk that no signal ends: every file of ours
     // was written when it changed, so leave without it.
-    if (!esperarSegundoPlano(esperaFinalMs)) std::_Exit(codigo);
+    if (!esperarSegundoPlano(esperaFinalMs)) {
+        soltarConexiones();
+        std::_Exit(codigo);
+    }
     return codigo;
 }
 

@@ -37,6 +37,17 @@ int abrirPorTramos(std::string_view resto, int opciones)
 
 } // namespace
 
+int describirCamino(const char *ruta, struct stat *atributos)
+{
+    if (::lstat(ruta, atributos) == 0) return 0;
+    const std::string_view entera(ruta);
+    const auto barra = entera.rfind('/');
+    if (errno != ENAMETOOLONG || barra == std::string_view::npos) return -1;
+    const Descriptor carpeta{abrirPorTramos(entera.substr(0, barra), soloPasar | O_DIRECTORY | O_CLOEXEC)};
+    if (!carpeta.abierto()) return -1;
+    return ::fstatat(carpeta.numero(), ruta + barra + 1, atributos, AT_SYMLINK_NOFOLLOW);
+}
+
 int abrirCamino(const char *ruta, int opciones)
 {
     const int abierto = ::open(ruta, opciones);

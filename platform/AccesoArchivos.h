@@ -14,7 +14,7 @@ class AccesoArchivos
 public:
     virtual ~AccesoArchivos() = default;
 
-    /// Opens a regular file for reading, its access time left alone where the system allows that.
+    /// Opens a regular file, and nothing else, for reading, its access time left alone where that can be.
     /// Never follows a final link, never waits for the other end of a pipe. -1 with `errno` on failure.
     virtual int abrir(const char *ruta) = 0;
 

@@ -16,6 +16,11 @@ struct Lugares
     std::vector<std::string> raices{"Downloads", "Desktop", "Documents", "Pictures", "Movies"};
     /// Those of them that downloads land in.
     std::vector<std::string> descargas{"Downloads"};
+    /// Where the user's own Trash keeps what was thrown away: absolute, by every spelling known of it; it
+    /// may be missing.
+    std::vector<std::string> papeleras;
+    /// The name of the user's Trash at the top of any other volume.
+    std::string papeleraDeVolumen;
     /// The catalogue of rules for this platform; the file may be missing.
     std::string catalogo;
     /// Folder with the program's own pictures.

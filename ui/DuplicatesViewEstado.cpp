@@ -10,15 +10,6 @@
 
 namespace ovanta {
 
-namespace {
-
-bool mismosIds(const std::vector<GrupoDuplicados> &unos, const std::vector<GrupoDuplicados> &otros)
-{
-    return std::ranges::equal(unos, otros, {}, &GrupoDuplicados::id, &GrupoDuplicados::id);
-}
-
-} // namespace
-
 DuplicatesViewEstado::DuplicatesViewEstado(QObject *parent) : HallazgosEstado(parent)
 {
     connect(&app().scanner(), &Scanner::duplicadosChanged, this, &DuplicatesViewEstado::publicar);
@@ -29,11 +20,10 @@ DuplicatesViewEstado::DuplicatesViewEstado(QObject *parent) : HallazgosEstado(pa
 
 void DuplicatesViewEstado::publicar()
 {
-    const Lista<GrupoDuplicados> &grupos = app().scanner().duplicados();
-    const bool cambian = !mismosIds(m_filas.grupos(), *grupos);
-    m_filas.publicar(grupos);
+    m_filas.publicar(app().scanner().duplicados());
     Q_EMIT duplicadosChanged();
-    if (cambian) desmarcarTodo();
+    // A group of the same content may have another original now.
+    desmarcarTodo();
 }
 
 QString DuplicatesViewEstado::valor() const

@@ -41,6 +41,7 @@ Rectangle {
                 simbolo: "checkmark.shield"
                 texto: "Todo va a la Papelera y puede recuperarse."
                 color: Tema.colores.verde
+                Layout.fillWidth: true
             }
             Item {
                 visible: !raiz.estado.moviendo

@@ -1,6 +1,7 @@
 #include "platform/linux/AccesoArchivosLinux.h"
 
 #include "core/AbrirCamino.h"
+#include "core/Descriptor.h"
 #include "core/Tamano.h"
 
 #include <algorithm>
@@ -39,8 +40,13 @@ constexpr std::array<unsigned, 20> sinArchivosDeNadie{
 int AccesoArchivosLinux::abrir(const char *ruta)
 {
     // Only the owner may leave the access time alone.
-    const int abierto = abrirCamino(ruta, soloLeer | O_NOATIME);
-    return abierto >= 0 || errno != EPERM ? abierto : abrirCamino(ruta, soloLeer);
+    Descriptor abierto{abrirCamino(ruta, soloLeer | O_NOATIME)};
+    if (!abierto.abierto() && errno == EPERM) abierto = Descriptor{abrirCamino(ruta, soloLeer)};
+    struct stat atributos = {};
+    if (!abierto.abierto() || ::fstat(abierto.numero(), &atributos) != 0) return -1;
+    if (S_ISREG(atributos.st_mode)) return abierto.soltar();
+    errno = EINVAL;
+    return -1;
 }
 
 ssize_t AccesoArchivosLinux::leer(int descriptor, void *destino, std::size_t bytes)

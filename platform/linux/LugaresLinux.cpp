@@ -83,13 +83,22 @@ void agregarRaices(Lugares &lugares, std::string_view userDirs)
     agregar("XDG_DOWNLOAD_DIR", lugares.descargas);
 }
 
+/// The Trash as the environment spells it, and where that really lies.
+std::vector<std::string> papelerasDe(const std::string &datos)
+{
+    std::vector<std::string> papeleras{unir(estandarizar(datos), "Trash")};
+    if (const auto reales = resolverEnlaces(datos); reales && unir(*reales, "Trash") != papeleras.front())
+        papeleras.push_back(unir(*reales, "Trash"));
+    return papeleras;
+}
+
 } // namespace
 
 EntornoLugares EntornoLugares::delProceso()
 {
     const std::string programa = resolverEnlaces("/proc/self/exe").value_or("/");
     return {variable("HOME"), variable("XDG_CONFIG_HOME"), std::string{carpetaContenedora(programa)},
-            variable("XDG_RUNTIME_DIR")};
+            variable("XDG_RUNTIME_DIR"), variable("XDG_DATA_HOME")};
 }
 
 Lugares lugaresLinux(const EntornoLugares &entorno)
@@ -99,6 +108,8 @@ Lugares lugaresLinux(const EntornoLugares &entorno)
     const std::string userDirs = leerUserDirs(entorno, lugares.hogar);
     lugares.protegidas = protegidasDe(userDirs, lugares.hogar);
     agregarRaices(lugares, userDirs);
+    lugares.papeleras = papelerasDe(carpetaDeDatosXdg(entorno, lugares.hogar));
+    lugares.papeleraDeVolumen = ".Trash-" + std::to_string(::geteuid());
     lugares.recursos = carpetaRecursos(entorno.carpetaPrograma);
     lugares.catalogo = lugares.recursos + "/linux/rules.json";
     return lugares;
@@ -107,6 +118,11 @@ Lugares lugaresLinux(const EntornoLugares &entorno)
 std::string carpetaDeConfiguracion(const EntornoLugares &entorno, const std::string &hogar)
 {
     return absolutaO(entorno.xdgConfig, hogar + "/.config");
+}
+
+std::string carpetaDeDatosXdg(const EntornoLugares &entorno, const std::string &hogar)
+{
+    return absolutaO(entorno.xdgDatos, hogar + "/.local/share");
 }
 
 std::string carpetaDeSesion(const EntornoLugares &entorno, const std::string &hogar)

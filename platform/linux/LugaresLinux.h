@@ -14,6 +14,7 @@ struct EntornoLugares
     std::optional<std::string> xdgConfig; ///< $XDG_CONFIG_HOME
     std::string carpetaPrograma;          ///< folder of the running program; ../share/ovanta is its data
     std::optional<std::string> xdgRuntime = {}; ///< $XDG_RUNTIME_DIR
+    std::optional<std::string> xdgDatos = {};   ///< $XDG_DATA_HOME
 
     static EntornoLugares delProceso();
 };
@@ -24,6 +25,10 @@ Lugares lugaresLinux(const EntornoLugares &entorno);
 
 /// Where programs keep their settings: XDG_CONFIG_HOME where it is absolute, else in `hogar`.
 std::string carpetaDeConfiguracion(const EntornoLugares &entorno, const std::string &hogar);
+
+/// Where programs keep what is not settings, the Trash too: XDG_DATA_HOME where it is absolute, else in
+/// `hogar`.
+std::string carpetaDeDatosXdg(const EntornoLugares &entorno, const std::string &hogar);
 
 /// Where programs of this session meet: XDG_RUNTIME_DIR where it is absolute, else in `hogar`.
 std::string carpetaDeSesion(const EntornoLugares &entorno, const std::string &hogar);

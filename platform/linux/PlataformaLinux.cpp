@@ -22,12 +22,6 @@ std::string leerProc(const std::string &ruta)
     }
 }
 
-LugarPapelera lugarDeLaPapelera(const std::string &hogar)
-{
-    const char *datos = std::getenv("XDG_DATA_HOME");
-    return {hogar, datos ? datos : ""};
-}
-
 InicioAutomaticoLinux::Lugares lugaresDeInicio(const EntornoLugares &entorno, const std::string &hogar)
 {
     const char *dirs = std::getenv("XDG_CONFIG_DIRS");
@@ -53,7 +47,8 @@ PlataformaLinux::PlataformaLinux()
       m_lugares(lugaresLinux(m_entorno)),
       m_preferencias(carpetaDeConfiguracion(m_entorno, m_lugares.hogar) + "/Ovanta/ajustes.ini"),
       m_volumen(m_lugares.hogar, leerProc("self/mountinfo")),
-      m_papelera({lugarDeLaPapelera(m_lugares.hogar), [this] { return m_reloj.ahora(); }}),
+      m_papelera({{m_lugares.hogar, carpetaDeDatosXdg(m_entorno, m_lugares.hogar)},
+                  [this] { return m_reloj.ahora(); }}),
       m_herramientas(m_lugares.hogar), m_notificaciones(m_sesion), m_suspension(QDBusConnection::systemBus()),
       m_gestorArchivos(m_sesion), m_apariencia(m_sesion), m_anfitrionBandeja(m_sesion),
       m_instanciaUnica({m_sesion, carpetaDeSesion(m_entorno, m_lugares.hogar), iniciadoPorLaSesion()}),

@@ -41,6 +41,8 @@ PlataformaSimulada::Opciones PlataformaSimulada::Opciones::delPrograma()
 PlataformaSimulada::PlataformaSimulada(const Opciones &opciones)
     : m_lugares{.hogar = m_casa.hogar(),
                 .protegidas = {},
+                .papeleras = {m_casa.hogar() + "/.Trash"},
+                .papeleraDeVolumen = ".Trashes",
                 .catalogo = opciones.recursos + "/macos/rules.json",
                 .recursos = opciones.recursos},
       m_preferencias(m_casa.hogar() + "/Library/Preferences/com.belmora.Ovanta.ini", m_registro),

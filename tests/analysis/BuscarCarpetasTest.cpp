@@ -21,6 +21,13 @@ std::vector<std::string> rutas(const std::vector<CarpetaPesada> &carpetas)
     return rutas;
 }
 
+Lugares lugares(const std::string &hogar)
+{
+    Lugares lugares;
+    lugares.hogar = hogar;
+    return lugares;
+}
+
 TEST(BuscarCarpetas, findsTheSixKindsWithTheRealTools)
 {
     const ArbolDeArchivos arbol;
@@ -29,7 +36,7 @@ TEST(BuscarCarpetas, findsTheSixKindsWithTheRealTools)
     arbol.escribir("p/node_modules/a/node_modules/x", "dentro");
     arbol.escribir("p/node_modules_viejo/x", "otro nombre");
     HerramientasLinux herramientas{arbol.raiz()};
-    const auto carpetas = buscarCarpetas(herramientas, arbol.raiz(), nullptr);
+    const auto carpetas = buscarCarpetas(herramientas, lugares(arbol.raiz()), nullptr);
     EXPECT_THAT(rutas(carpetas),
                 UnorderedElementsAre(arbol.en("p/node_modules"), arbol.en("p/.venv"), arbol.en("p/venv"),
                                      arbol.en("p/target"), arbol.en("p/.next"), arbol.en("p/build")));
@@ -44,12 +51,53 @@ TEST(BuscarCarpetas, neitherUnderLibraryNorBeyondSixLevels)
     arbol.escribir("Library/node_modules/x", "x");
     arbol.escribir("proyecto/Library/node_modules/x", "x");
     arbol.escribir(".Trash/node_modules/x", "x");
-    arbol.escribir(".local/share/Trash/files/node_modules/x", "x");
     arbol.escribir("1/2/3/4/5/node_modules/x", "x");
     arbol.escribir("1/2/3/4/5/6/node_modules/x", "x");
     HerramientasLinux herramientas{arbol.raiz()};
-    EXPECT_THAT(rutas(buscarCarpetas(herramientas, arbol.raiz(), nullptr)),
+    EXPECT_THAT(rutas(buscarCarpetas(herramientas, lugares(arbol.raiz()), nullptr)),
                 ElementsAre(arbol.en("1/2/3/4/5/node_modules")));
+}
+
+TEST(BuscarCarpetas, notInTheTrashWhereverItIsNorInThatOfAnotherVolume)
+{
+    const ArbolDeArchivos arbol;
+    for (const char *tirado : {".local/share/Trash/files", "datos/Trash/files", "disco/.Trash-77/files"})
+        arbol.escribir(std::string(tirado) + "/p/node_modules/x", "x");
+    arbol.escribir("disco/.Trash-770/files/p/build/x", "of another user");
+    arbol.escribir("datos/Trash2/build/x", "x");
+    HerramientasLinux herramientas{arbol.raiz()};
+    Lugares suyos = lugares(arbol.raiz());
+    suyos.papeleras = {arbol.en("datos/Trash"), arbol.en(".local/share/Trash")};
+    suyos.papeleraDeVolumen = ".Trash-77";
+    EXPECT_THAT(
+        rutas(buscarCarpetas(herramientas, suyos, nullptr)),
+        UnorderedElementsAre(arbol.en("datos/Trash2/build"), arbol.en("disco/.Trash-770/files/p/build")));
+}
+
+TEST(BuscarCarpetas, theLineBreakInANameBringsUpNothingElse)
+{
+    const ArbolDeArchivos arbol;
+    arbol.escribir("proyecto/importante.txt", "x");
+    arbol.escribir("fuera/node_modules/x", "x");
+    arbol.escribir("proyecto\n" + arbol.en("importante/build/x"), "x");
+    arbol.escribir("otro\nproyecto/build/x", "x");
+    HerramientasLinux herramientas{arbol.raiz()};
+    EXPECT_THAT(rutas(buscarCarpetas(herramientas, lugares(arbol.raiz()), nullptr)),
+                ElementsAre(arbol.en("fuera/node_modules")));
+}
+
+TEST(BuscarCarpetas, aLineOutsideHomeOrOfAnotherNameIsNoFolderOfItsOwn)
+{
+    HerramientasDePrueba herramientas;
+    herramientas.alEjecutar = [](const std::string &binario, const std::vector<std::string> &args) {
+        std::string salida;
+        if (binario == "/usr/bin/find")
+            return std::string("/h/a\n/etc/build\n/h2/build\nbuild\n/h/b/build\n/h\n");
+        for (std::size_t i = 1; i < args.size(); ++i)
+            salida += "4\t" + args[i] + "\n";
+        return salida;
+    };
+    EXPECT_THAT(rutas(buscarCarpetas(herramientas, lugares("/h"), nullptr)), ElementsAre("/h/b/build"));
 }
 
 TEST(BuscarCarpetas, asksFindAndDuForExactlyWhatItNeeds)
@@ -59,7 +107,7 @@ TEST(BuscarCarpetas, asksFindAndDuForExactlyWhatItNeeds)
         return binario == "/usr/bin/find" ? std::string("/h/a/build\n/h/b/build\n")
                                           : std::string("4\t/h/a/build\n8\t/h/b/build\n");
     };
-    const auto carpetas = buscarCarpetas(herramientas, "/h", nullptr);
+    const auto carpetas = buscarCarpetas(herramientas, lugares("/h"), nullptr);
     EXPECT_THAT(rutas(carpetas), ElementsAre("/h/b/build", "/h/a/build"));
     EXPECT_EQ(carpetas[0].bytes, 8192U);
     ASSERT_EQ(herramientas.llamadas.size(), 2U);
@@ -90,7 +138,7 @@ TEST(BuscarCarpetas, measuresTwoHundredAtATimeAndAFailedBatchDoesNotTakeTheOther
             salida += "4\t" + args[i] + "\n";
         return salida;
     };
-    EXPECT_EQ(buscarCarpetas(herramientas, "/h", nullptr).size(), 250U);
+    EXPECT_EQ(buscarCarpetas(herramientas, lugares("/h"), nullptr).size(), 250U);
     EXPECT_EQ(tandas, 3);
     EXPECT_EQ(herramientas.llamadas[1].size(), 202U);
 }
@@ -103,7 +151,7 @@ TEST(BuscarCarpetas, anIllegibleLineOfDuIsLostAlone)
                    ? std::string("/h/a\tb/build\n\n/h/c/build\n/h/d/build\n")
                    : std::string(" 4 \t/h/a\tb/build\nx\t/h/c/build\n/h/d/build\n9\t/h/otra\n");
     };
-    EXPECT_THAT(rutas(buscarCarpetas(herramientas, "/h", nullptr)), ElementsAre("/h/a\tb/build"));
+    EXPECT_THAT(rutas(buscarCarpetas(herramientas, lugares("/h"), nullptr)), ElementsAre("/h/a\tb/build"));
 }
 
 TEST(BuscarCarpetas, withoutFindThereAreNoFolders)
@@ -112,7 +160,7 @@ TEST(BuscarCarpetas, withoutFindThereAreNoFolders)
     herramientas.alEjecutar = [](const auto &, const auto &) -> std::string {
         throw std::runtime_error("find");
     };
-    EXPECT_THAT(buscarCarpetas(herramientas, "/h", nullptr), IsEmpty());
+    EXPECT_THAT(buscarCarpetas(herramientas, lugares("/h"), nullptr), IsEmpty());
 }
 
 TEST(BuscarCarpetas, stoppedBetweenBatchesItDropsWhatWasMeasured)
@@ -129,7 +177,7 @@ TEST(BuscarCarpetas, stoppedBetweenBatchesItDropsWhatWasMeasured)
             salida += "/h/" + std::to_string(i) + "/build\n";
         return salida;
     };
-    EXPECT_THAT(buscarCarpetas(herramientas, "/h", &bandera), IsEmpty());
+    EXPECT_THAT(buscarCarpetas(herramientas, lugares("/h"), &bandera), IsEmpty());
     EXPECT_EQ(herramientas.llamadas.size(), 2U);
 }
 
@@ -138,7 +186,7 @@ TEST(BuscarCarpetas, stoppedBeforehandItCallsNobody)
     BanderaCancelacion bandera;
     bandera.cancelar();
     HerramientasDePrueba herramientas;
-    EXPECT_THAT(buscarCarpetas(herramientas, "/h", &bandera), IsEmpty());
+    EXPECT_THAT(buscarCarpetas(herramientas, lugares("/h"), &bandera), IsEmpty());
     EXPECT_THAT(herramientas.llamadas, IsEmpty());
 }
 

@@ -153,34 +153,6 @@ TEST(Recorrer, anUnreadableFolderIsPassedBy)
     EXPECT_THAT(relativas(archivos, arbol.raiz()), ElementsAre("abierta/x"));
 }
 
-TEST(Recorrer, reachesFoldersDeeperThanTheLongestPath)
-{
-    const ArbolDeArchivos arbol;
-    constexpr int hondura = 4000;
-    int carpeta = ::open(arbol.raiz().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    for (int i = 0; i < hondura; ++i) {
-        ASSERT_EQ(::mkdirat(carpeta, "nivel", 0700), 0);
-        const int siguiente = ::openat(carpeta, "nivel", O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-        ::close(carpeta);
-        carpeta = siguiente;
-    }
-    const int archivo = ::openat(carpeta, "fondo", O_WRONLY | O_CREAT | O_CLOEXEC, 0600);
-    ASSERT_EQ(::write(archivo, "uno", 3), 3);
-    ::close(archivo);
-    ::close(carpeta);
-
-    const ListaArchivos archivos = arbol.archivos();
-    ASSERT_EQ(archivos.size(), 1U);
-    EXPECT_EQ(archivos.ruta(0).size(), arbol.raiz().size() + 6 * hondura + 6);
-    AccesoArchivosLinux acceso;
-    const int abierto = acceso.abrir(archivos.ruta(0).c_str());
-    char leido[8];
-    EXPECT_EQ(acceso.leer(abierto, leido, sizeof leido), 3);
-    ::close(abierto);
-    // The ordinary way to remove a tree cannot go this deep by path.
-    EXPECT_EQ(std::system(("rm -rf '" + arbol.en("nivel") + "'").c_str()), 0);
-}
-
 TEST(Recorrer, aNameThatIsNotUtf8ArrivesByteByByte)
 {
     const ArbolDeArchivos arbol;

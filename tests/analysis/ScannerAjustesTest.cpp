@@ -55,6 +55,14 @@ TEST_F(ScannerAjustes, whatNoSettingCanHoldCountsAsNothingStored)
     }
 }
 
+TEST_F(ScannerAjustes, aMinimumOfZeroIsAMinimumAndSurvivesARestart)
+{
+    Scanner scanner(plataforma);
+    scanner.fijarMinimoMB(0);
+    const Scanner otro(plataforma);
+    EXPECT_EQ(otro.minimoMB(), 0);
+}
+
 TEST_F(ScannerAjustes, aNumberThatNoSettingCanHoldIsNotTaken)
 {
     Scanner scanner(plataforma);

@@ -7,7 +7,9 @@
 #include <QElapsedTimer>
 #include <QSignalSpy>
 #include <QTest>
+#include <atomic>
 #include <condition_variable>
+#include <future>
 #include <gmock/gmock.h>
 
 namespace ovanta::pruebas {
@@ -194,6 +196,51 @@ TEST_F(ScannerTest, aDiskThatDoesNotAnswerDoesNotHoldUpAStop)
     EXPECT_TRUE(esperarSegundoPlano(5000));
     QCoreApplication::processEvents();
     EXPECT_THAT(*scanner->duplicados(), SizeIs(1));
+}
+
+TEST_F(ScannerTest, aSearchForFoldersThatNeverEndsDoesNotHoldUpAStop)
+{
+    std::promise<void> freno;
+    auto fin = freno.get_future().share();
+    std::atomic<bool> colgada = false;
+    llenar();
+    alEjecutar = [fin, &colgada] {
+        colgada = true;
+        fin.wait();
+    };
+    auto tarea = scanner->analizar();
+    ASSERT_TRUE(QTest::qWaitFor([&] { return colgada.load(); }, 5000));
+    EXPECT_THAT(*scanner->duplicados(), SizeIs(1)) << "what was found before is shown";
+    scanner->detener();
+    plataforma.m_reloj.avanzar(600ms);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return !scanner->trabajando(); }, 5000));
+    EXPECT_THAT(*scanner->carpetas(), IsEmpty());
+    EXPECT_THAT(*scanner->instaladores(), IsEmpty());
+    freno.set_value();
+    EXPECT_TRUE(esperarSegundoPlano(5000));
+    QCoreApplication::processEvents();
+    EXPECT_THAT(*scanner->carpetas(), IsEmpty()) << "what it brings at last is dropped";
+}
+
+TEST_F(ScannerTest, withoutTheToolsTheFilesAreShownAndNoFolders)
+{
+    llenar();
+    alEjecutar = [] { throw std::runtime_error("no existe"); };
+    analizar();
+    EXPECT_THAT(*scanner->duplicados(), SizeIs(1));
+    EXPECT_THAT(*scanner->instaladores(), SizeIs(2));
+    EXPECT_THAT(*scanner->carpetas(), IsEmpty());
+    EXPECT_FALSE(scanner->trabajando());
+}
+
+TEST_F(ScannerTest, whatWasThrownAwayIsNotAnalysedWhereverTheTrashIs)
+{
+    llenar();
+    arbol.escribir("Documents/datos/Trash/files/copia.dmg", "igual");
+    plataforma.m_lugares.papeleras = {arbol.en("Documents/datos/Trash")};
+    analizar();
+    EXPECT_EQ(scanner->archivosVistos(), 2U);
+    EXPECT_EQ(scanner->duplicados()->front().copias.size(), 2U);
 }
 
 TEST_F(ScannerTest, destroyedDuringAnAnalysisItLeavesNoTrace)

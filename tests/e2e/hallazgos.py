@@ -17,10 +17,10 @@ class PantallaHallazgos:
     def empezar(self):
         self.ventana.esperar(contiene="Analizar ", papel=BOTON).pulsar()
 
-    def esperar_fin(self):
+    def esperar_fin(self, limite=None):
         """Waits until no analysis and no move runs: nothing is left to stop."""
         esperar(lambda: not self.ventana.buscar("Detener", BOTON) and not self.ventana.buscar("Deteniendo", BOTON),
-                "que termine el análisis")
+                "que termine el análisis", limite)
 
     def marcar(self, *nombres):
         for nombre in nombres:
@@ -34,9 +34,9 @@ class PantallaHallazgos:
         self.ventana.esperar("Mover a la Papelera", BOTON).pulsar()
         return self.ventana.esperar(titulo, DIALOGO)
 
-    def mover(self, titulo, contiene):
-        """Moves what is marked and returns the line of the result."""
+    def mover(self, titulo, contiene, limite=None):
+        """Moves what is marked and returns the line of the result. Whatever the question, without a title."""
         self.pedir_mover(titulo).esperar(contiene=contiene, papel=BOTON).pulsar()
         resultado = self.ventana.esperar(contiene="Movid", papel="label").nombre
-        self.esperar_fin()
+        self.esperar_fin(limite)
         return resultado

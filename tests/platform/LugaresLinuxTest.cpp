@@ -47,6 +47,22 @@ TEST(LugaresLinux, withoutAUsableHomeThePasswordDatabaseTells)
         EXPECT_EQ(lugaresCon(home).hogar, hogarDeLaBase());
 }
 
+TEST(LugaresLinux, theTrashIsWhereTheEnvironmentPutsIt)
+{
+    const HogarTemporal hogar;
+    const auto papelerasCon = [&](std::optional<std::string> datos) {
+        return lugaresLinux({hogar.ruta(), {}, "/opt/ovanta/bin", {}, std::move(datos)}).papeleras;
+    };
+    EXPECT_THAT(papelerasCon({}), ElementsAre(hogar.en(".local/share/Trash")));
+    EXPECT_THAT(papelerasCon("relativa"), ElementsAre(hogar.en(".local/share/Trash")));
+    EXPECT_THAT(papelerasCon(hogar.en("datos/")), ElementsAre(hogar.en("datos/Trash")));
+    HogarTemporal::carpeta(hogar.en("de verdad"));
+    HogarTemporal::enlace(hogar.en("enlazados"), hogar.en("de verdad"));
+    EXPECT_THAT(papelerasCon(hogar.en("enlazados")),
+                ElementsAre(hogar.en("enlazados/Trash"), hogar.en("de verdad/Trash")));
+    EXPECT_EQ(lugaresCon(hogar.ruta()).papeleraDeVolumen, ".Trash-" + std::to_string(::geteuid()));
+}
+
 TEST(LugaresLinux, slashesAtTheEndOfHomeAreDropped)
 {
     const HogarTemporal hogar;

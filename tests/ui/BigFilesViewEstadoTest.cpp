@@ -74,6 +74,42 @@ TEST_F(BigFilesEstado, aNewAnalysisDoesNotClearTheMarks)
     EXPECT_EQ(estado->bytesMarcados(), 4U);
 }
 
+TEST_F(BigFilesEstado, aMarkWhoseFileIsGoneStaysAndWeighsNothing)
+{
+    archivo("a.bin", std::string(1'000'000, 'a'));
+    archivo("b.bin", std::string(2'000'000, 'b'));
+    preparar();
+    estado->marcar(0, true);
+    estado->marcar(1, true);
+    std::filesystem::remove(en("b.bin"));
+    analizar();
+    EXPECT_EQ(estado->textoMarcados(), QStringLiteral("2 marcados · 1 MB"));
+    EXPECT_EQ(estado->tituloConfirmacion(), QStringLiteral("¿Mover 2 elementos?"));
+    EXPECT_EQ(estado->textoConfirmar(), QStringLiteral("Mover y liberar 1 MB"));
+    moverTodo();
+    EXPECT_THAT(plataforma.m_papelera.recicladas, ElementsAre(en("a.bin")));
+    EXPECT_TRUE(estado->resumen().startsWith(QStringLiteral("Movidos 1 · ")));
+    EXPECT_EQ(estado->fallos().size(), 1);
+    EXPECT_EQ(estado->textoMarcados(), QString());
+}
+
+TEST_F(BigFilesEstado, aStageThatPublishesLeavesTheMarksOfTheTabsThatWait)
+{
+    archivo("Captura 1.png", std::string(1'000'000, 'a'));
+    preparar();
+    estado->fijarPestana(Capturas);
+    estado->marcar(0, true);
+    std::filesystem::remove(en("Captura 1.png"));
+    std::uint64_t alPublicar = 0;
+    const auto unaVez = QObject::connect(&app().scanner(), &Scanner::duplicadosChanged,
+                                         [&] { alPublicar = estado->bytesMarcados(); });
+    analizar();
+    QObject::disconnect(unaVez);
+    EXPECT_EQ(alPublicar, 1'000'000U) << "the old list of captures still holds it";
+    EXPECT_EQ(estado->bytesMarcados(), 0U);
+    EXPECT_EQ(estado->textoMarcados(), QStringLiteral("1 marcados · 0 GB"));
+}
+
 TEST_F(BigFilesEstado, aFileThatStandsInTwoTabsIsMarkedInBothAndCountsOnce)
 {
     archivo("Captura 1.png", std::string(1'000'000, 'a'));

@@ -39,19 +39,24 @@ protected:
     /// One state of a screen in every look and size.
     void retratar(const QString &nombre)
     {
-        const std::vector<std::pair<QString, QSize>> tamanos{{QStringLiteral("minima"), {900, 660}},
-                                                             {QStringLiteral("media"), {1000, 700}},
-                                                             {QStringLiteral("grande"), {1400, 900}}};
-        for (const auto &[tamano, medida] : tamanos)
-            for (const bool oscuro : {false, true}) {
-                plataforma.m_apariencia.fijar({.oscuro = oscuro, .movimientoReducido = true});
-                ventana()->resize(medida);
-                reposar();
-                capturar(
-                    QStringLiteral("%1-%2-%3")
-                        .arg(nombre, tamano, oscuro ? QStringLiteral("oscura") : QStringLiteral("clara")));
-                EXPECT_EQ(ventana()->size(), medida);
-            }
+        for (const bool oscuro : {false, true}) {
+            for (const QSize medida : {QSize(900, 660), QSize(1000, 700), QSize(1400, 900)})
+                retratar(nombre, medida, {.oscuro = oscuro});
+            retratar(nombre + QStringLiteral("-contraste"), {900, 660},
+                     {.oscuro = oscuro, .altoContraste = true});
+        }
+    }
+    void retratar(const QString &nombre, QSize medida, Apariencia::Estado aspecto)
+    {
+        aspecto.movimientoReducido = true;
+        plataforma.m_apariencia.fijar(aspecto);
+        ventana()->resize(medida);
+        reposar();
+        capturar(QStringLiteral("%1-%2-%3")
+                     .arg(nombre)
+                     .arg(medida.width())
+                     .arg(aspecto.oscuro ? QStringLiteral("oscura") : QStringLiteral("clara")));
+        EXPECT_EQ(ventana()->size(), medida);
     }
     void retratarTrabajando(const QString &nombre)
     {

@@ -115,20 +115,45 @@ TEST_F(DuplicatesEstado, afterUnmarkingAllTheFigureIsZero)
     EXPECT_FALSE(estado->puedeMover());
 }
 
-TEST_F(DuplicatesEstado, aNewAnalysisWithOtherGroupsClearsTheMarksAndTheQuestion)
+TEST_F(DuplicatesEstado, aNewAnalysisClearsTheMarksAndTheQuestion)
+{
+    grupo("foto", 2, 1000);
+    preparar();
+    for (const char *nuevo : {"", "vídeo"}) {
+        estado->marcar(1, true);
+        estado->pedirConfirmacion();
+        ASSERT_TRUE(estado->confirmando());
+        if (*nuevo) grupo(nuevo, 2, 3000);
+        analizar();
+        EXPECT_FALSE(estado->hayMarcadas());
+        EXPECT_EQ(estado->marcas().bytes(), 0U);
+        EXPECT_FALSE(estado->confirmando());
+    }
+}
+
+TEST_F(DuplicatesEstado, aMarkedCopyThatBecameTheOriginalIsNoLongerMarked)
+{
+    grupo("foto", 3, 1000);
+    preparar();
+    estado->marcarTodasMenosLaOriginal(0);
+    std::filesystem::remove(en("foto 1"));
+    analizar();
+    EXPECT_EQ(dato(0, ModeloCopias::Nombre).toString(), QStringLiteral("foto 2"));
+    EXPECT_FALSE(dato(0, ModeloCopias::Marcada).toBool());
+    EXPECT_FALSE(estado->hayMarcadas());
+}
+
+TEST_F(DuplicatesEstado, aStoppedAnalysisKeepsTheMarks)
 {
     grupo("foto", 2, 1000);
     preparar();
     estado->marcar(1, true);
-    estado->pedirConfirmacion();
+    plataforma.m_accesoArchivos.alMirarCarpeta = [this] {
+        QMetaObject::invokeMethod(
+            &app().scanner(), [this] { estado->detener(); }, Qt::BlockingQueuedConnection);
+    };
     analizar();
-    EXPECT_TRUE(estado->hayMarcadas()) << "the same groups";
-    EXPECT_TRUE(estado->confirmando());
-    grupo("vídeo", 2, 3000);
-    analizar();
-    EXPECT_FALSE(estado->hayMarcadas());
-    EXPECT_EQ(estado->marcas().bytes(), 0U);
-    EXPECT_FALSE(estado->confirmando());
+    EXPECT_TRUE(estado->hayMarcadas());
 }
 
 TEST_F(DuplicatesEstado, itsTextsFollowTheAnalysis)

@@ -26,8 +26,7 @@ ColumnLayout {
         }
     }
     Texto {
-        Layout.alignment: Qt.AlignHCenter
-        Layout.maximumWidth: raiz.width
+        Layout.fillWidth: true
         text: raiz.titulo
         font.pixelSize: Tema.letraCabecera + 1
         font.weight: Font.DemiBold
@@ -36,7 +35,8 @@ ColumnLayout {
     }
     Texto {
         Layout.alignment: Qt.AlignHCenter
-        Layout.maximumWidth: Math.min(420, raiz.width)
+        Layout.fillWidth: true
+        Layout.maximumWidth: 460
         text: raiz.mensaje
         color: Tema.colores.secundario
         wrapMode: Text.Wrap

@@ -13,7 +13,8 @@ T.TabButton {
     leftPadding: 4
     rightPadding: 4
     checkable: false
-    focusPolicy: elegido ? Qt.StrongFocus : Qt.ClickFocus
+    // One place in the chain of the tab key, wherever the focus is.
+    focusPolicy: elegido || activeFocus ? Qt.StrongFocus : Qt.ClickFocus
     hoverEnabled: true
     Accessible.name: text
     Accessible.selectable: true
