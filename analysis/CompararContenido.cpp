@@ -28,7 +28,7 @@ struct Trozo
 /// Files that were equal so far.
 struct Clase
 {
-    Sha256 sha;
+    DigestosAparte::EnCurso digesto;
     std::vector<std::size_t> miembros;
     Trozo trozo; ///< what its members have at the place under way
 };
@@ -36,44 +36,44 @@ struct Clase
 class Comparacion
 {
 public:
-    Comparacion(std::vector<Descriptor> archivos, AccesoArchivos &acceso)
-        : m_archivos(std::move(archivos)), m_digestos(m_archivos.size()), m_acceso(acceso)
+    Comparacion(std::vector<PorComparar> archivos, AccesoArchivos &acceso, DigestosAparte &digestos)
+        : m_archivos(std::move(archivos)), m_acceso(acceso), m_digestos(digestos)
     {
     }
 
-    std::vector<std::optional<Digesto>> digestos(std::uint64_t desde, const BanderaCancelacion *cancelacion)
+    std::vector<ContenidoComparado> contenidos(std::uint64_t desde, const BanderaCancelacion *cancelacion)
     {
-        if (!empezar(desde)) return m_digestos;
+        empezar(desde);
         while (!m_clases.empty()) {
-            if (cancelada(cancelacion)) return std::vector<std::optional<Digesto>>(m_archivos.size());
+            if (cancelada(cancelacion)) return {};
             avanzar();
         }
-        return m_digestos;
+        return std::move(m_contenidos);
     }
 
 private:
     /// The first class holds all that are open, with the equal beginning digested once.
-    bool empezar(std::uint64_t desde)
+    void empezar(std::uint64_t desde)
     {
         Clase todos;
         for (std::size_t i = 0; i < m_archivos.size(); ++i)
-            if (m_archivos[i].abierto()) todos.miembros.push_back(i);
-        if (todos.miembros.empty()) return false;
+            if (m_archivos[i].archivo.abierto()) todos.miembros.push_back(i);
+        if (todos.miembros.empty()) return;
+        todos.digesto = m_digestos.empezar();
         for (std::uint64_t quedan = desde; quedan > 0;) {
             leer(todos.miembros.front(), todos.trozo, std::min<std::uint64_t>(quedan, porTrozo));
             if (todos.trozo.largo == 0) break;
-            todos.sha.agregar(todos.trozo.datos.get(), todos.trozo.largo);
+            m_digestos.agregar(todos.digesto, todos.trozo.datos.get(), todos.trozo.largo);
             quedan -= todos.trozo.largo;
         }
         for (const std::size_t i : todos.miembros)
-            ::lseek(m_archivos[i].numero(), static_cast<off_t>(desde), SEEK_SET);
+            ::lseek(m_archivos[i].archivo.numero(), static_cast<off_t>(desde), SEEK_SET);
         m_clases.push_back(std::move(todos));
-        return true;
     }
 
     void leer(std::size_t archivo, Trozo &trozo, std::size_t bytes = porTrozo)
     {
-        trozo.largo = leerTrozo(m_acceso, m_archivos[archivo].numero(), trozo.datos.get(), bytes);
+        trozo.largo = leerTrozo(m_acceso, m_archivos[archivo].archivo.numero(), trozo.datos.get(), bytes);
     }
 
     void avanzar()
@@ -98,40 +98,54 @@ private:
             auto suya = std::ranges::find(partes, m_leido, &Clase::trozo);
             if (suya == partes.end()) {
                 Clase nueva;
-                nueva.sha.copiar(partes.front().sha);
+                nueva.digesto = m_digestos.copiar(partes.front().digesto);
                 std::swap(nueva.trozo, m_leido);
                 suya = partes.insert(partes.end(), std::move(nueva));
             }
             suya->miembros.push_back(miembros[m]);
         }
-        for (Clase &parte : partes)
-            parte.sha.agregar(parte.trozo.datos.get(), parte.trozo.largo);
         return partes;
     }
 
     bool terminada(Clase &clase)
     {
+        if (clase.miembros.size() == 1 && !m_archivos[clase.miembros.front()].importaSolo)
+            clase.digesto.reset();
+        if (clase.digesto) m_digestos.agregar(clase.digesto, clase.trozo.datos.get(), clase.trozo.largo);
         if (clase.trozo.largo == porTrozo) return false;
-        const Digesto digesto = clase.sha.terminar();
-        for (const std::size_t i : clase.miembros)
-            m_digestos[i] = digesto;
+        if (!clase.digesto) return !empiezaOtraVez(clase);
+        m_contenidos.push_back({m_digestos.terminar(clase.digesto), std::move(clase.miembros)});
         return true;
     }
 
-    std::vector<Descriptor> m_archivos;
-    std::vector<std::optional<Digesto>> m_digestos;
+    /// A content that ended elsewhere than its file should may be that of a file of another size: it is
+    /// read once more for its digest.
+    bool empiezaOtraVez(Clase &sola)
+    {
+        PorComparar &suyo = m_archivos[sola.miembros.front()];
+        const off_t fin = ::lseek(suyo.archivo.numero(), 0, SEEK_CUR);
+        if (fin >= 0 && static_cast<std::uint64_t>(fin) == suyo.bytes) return false;
+        suyo.importaSolo = true;
+        ::lseek(suyo.archivo.numero(), 0, SEEK_SET);
+        sola.digesto = m_digestos.empezar();
+        return true;
+    }
+
+    std::vector<PorComparar> m_archivos;
     AccesoArchivos &m_acceso;
+    DigestosAparte &m_digestos;
     std::vector<Clase> m_clases;
+    std::vector<ContenidoComparado> m_contenidos;
     Trozo m_leido;
 };
 
 } // namespace
 
-std::vector<std::optional<Digesto>> digestosPorComparacion(std::vector<Descriptor> archivos,
-                                                           std::uint64_t desde, AccesoArchivos &acceso,
-                                                           const BanderaCancelacion *cancelacion)
+std::vector<ContenidoComparado> compararContenido(std::vector<PorComparar> archivos, std::uint64_t desde,
+                                                  AccesoArchivos &acceso, DigestosAparte &digestos,
+                                                  const BanderaCancelacion *cancelacion)
 {
-    return Comparacion(std::move(archivos), acceso).digestos(desde, cancelacion);
+    return Comparacion(std::move(archivos), acceso, digestos).contenidos(desde, cancelacion);
 }
 
 } // namespace ovanta

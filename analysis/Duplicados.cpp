@@ -36,11 +36,12 @@ struct Cabeza
     auto operator<=>(const Cabeza &) const = default;
 };
 
-/// Files whose heads are equal.
+/// Files that are equal, by their heads or as a whole.
 struct Conjunto
 {
     bool cabezaEntera = false;
-    std::vector<Numero> archivos;
+    std::vector<Numero> archivos{};
+    const Digesto *digesto = nullptr; ///< of the whole content, once it was asked for
 };
 
 std::string enHexadecimal(const Digesto &digesto)
@@ -65,6 +66,8 @@ public:
         nombrarCortos();
         compararGrandes();
         if (cancelada(m_cancelacion)) return {};
+        m_digestos.esperar();
+        anotarTodos();
         std::vector<ContenidoIgual> iguales;
         for (auto &[clave, archivos] : m_iguales)
             if (archivos.size() > 1) {
@@ -117,7 +120,7 @@ private:
             const auto [archivo, conjunto] = m_candidatos.todos()[i];
             std::vector<Conjunto> &suyos = m_archivos.bytes(archivo) <= cabeza ? m_cortos : m_grandes;
             const auto [lugar, nuevo] = lugarDeConjunto.try_emplace(conjunto, suyos.size());
-            if (nuevo) suyos.push_back({cabezas[antes[i]]->entera, {}});
+            if (nuevo) suyos.push_back({.cabezaEntera = cabezas[antes[i]]->entera});
             suyos[lugar->second].archivos.push_back(archivo);
         }
     }
@@ -142,17 +145,14 @@ private:
         for (const Conjunto &corto : m_cortos)
             primeros.push_back(corto.archivos.front());
         AperturaAdelantada abiertos(m_archivos, m_candidatos.enlaces(), m_acceso, primeros, cabeza);
-        for (const Conjunto &corto : m_cortos) {
+        for (Conjunto &corto : m_cortos) {
             if (cancelada(m_cancelacion)) return;
-            const std::uint64_t bytes = m_archivos.bytes(corto.archivos.front());
-            std::string clave = "corto-" + std::to_string(bytes) + "-";
-            if (const Descriptor primero = abiertos.siguiente(); primero.abierto()) {
-                m_sha.empezar();
-                m_sha.agregar(m_leido.get(), leerCabeza(primero.numero(), bytes));
-                clave += enHexadecimal(m_sha.terminar());
-            }
-            for (const Numero archivo : corto.archivos)
-                anotar(clave, archivo);
+            const Descriptor primero = abiertos.siguiente();
+            if (!primero.abierto()) continue;
+            const DigestosAparte::EnCurso digesto = m_digestos.empezar();
+            m_digestos.agregar(digesto, m_leido.get(),
+                               leerCabeza(primero.numero(), m_archivos.bytes(corto.archivos.front())));
+            corto.digesto = m_digestos.terminar(digesto);
         }
     }
 
@@ -166,28 +166,48 @@ private:
             std::span<const Numero> quedan = grande.archivos;
             while (!quedan.empty() && !cancelada(m_cancelacion)) {
                 const auto juntos = quedan.first(std::min(quedan.size(), porComparacion));
-                comparar(juntos, grande.cabezaEntera ? cabeza : 0, abiertos);
+                comparar(juntos, grande, abiertos);
                 quedan = quedan.subspan(juntos.size());
             }
         }
     }
 
-    void comparar(std::span<const Numero> archivos, std::uint64_t igualesHasta, AperturaAdelantada &abiertos)
+    void comparar(std::span<const Numero> archivos, const Conjunto &suyo, AperturaAdelantada &abiertos)
     {
-        std::vector<Descriptor> descriptores;
-        for (std::size_t i = 0; i < archivos.size(); ++i)
-            descriptores.push_back(abiertos.siguiente());
-        const auto digestos =
-            digestosPorComparacion(std::move(descriptores), igualesHasta, m_acceso, m_cancelacion);
-        for (std::size_t i = 0; i < archivos.size(); ++i)
-            if (digestos[i]) anotar(enHexadecimal(*digestos[i]), archivos[i]);
+        const bool sonTodos = archivos.size() == suyo.archivos.size();
+        std::vector<PorComparar> porComparar;
+        for (const Numero archivo : archivos)
+            porComparar.push_back({abiertos.siguiente(), m_archivos.bytes(archivo),
+                                   !sonTodos || !m_candidatos.enlaces().otrosNombres(archivo).empty()});
+        const auto contenidos = compararContenido(std::move(porComparar), suyo.cabezaEntera ? cabeza : 0,
+                                                  m_acceso, m_digestos, m_cancelacion);
+        for (const ContenidoComparado &contenido : contenidos) {
+            Conjunto &igual = m_comparados.emplace_back();
+            igual.digesto = contenido.digesto;
+            for (const std::size_t i : contenido.archivos)
+                igual.archivos.push_back(archivos[i]);
+        }
     }
 
-    void anotar(const std::string &clave, Numero archivo)
+    void anotarTodos()
     {
-        const std::vector<Numero> nombres = m_candidatos.enlaces().nombresQueQuedan(m_archivos, archivo);
+        for (const Conjunto &corto : m_cortos) {
+            const std::uint64_t bytes = m_archivos.bytes(corto.archivos.front());
+            anotar("corto-" + std::to_string(bytes) + "-" +
+                       (corto.digesto ? enHexadecimal(*corto.digesto) : ""),
+                   corto.archivos);
+        }
+        for (const Conjunto &comparado : m_comparados)
+            anotar(enHexadecimal(*comparado.digesto), comparado.archivos);
+    }
+
+    void anotar(const std::string &clave, const std::vector<Numero> &archivos)
+    {
         std::vector<Numero> &iguales = m_iguales[clave];
-        iguales.insert(iguales.end(), nombres.begin(), nombres.end());
+        for (const Numero archivo : archivos) {
+            const std::vector<Numero> nombres = m_candidatos.enlaces().nombresQueQuedan(m_archivos, archivo);
+            iguales.insert(iguales.end(), nombres.begin(), nombres.end());
+        }
     }
 
     const ListaArchivos &m_archivos;
@@ -196,9 +216,10 @@ private:
     Candidatos m_candidatos;
     std::unique_ptr<char[]> m_leido;
     MarcaSecreta m_marca;
-    Sha256 m_sha;
+    DigestosAparte m_digestos;
     std::vector<Conjunto> m_cortos;
-    std::vector<Conjunto> m_grandes; ///< above the head's length
+    std::vector<Conjunto> m_grandes;    ///< above the head's length, of equal heads
+    std::vector<Conjunto> m_comparados; ///< above the head's length, of one content
     std::unordered_map<std::string, std::vector<Numero>> m_iguales;
 };
 
