@@ -22,6 +22,8 @@ using Numero = ListaArchivos::Numero;
 
 /// The head that is digested first, and the largest file that it holds wholly.
 constexpr std::uint64_t cabeza = 65536;
+/// Up to here looking at the mark first costs more than it spares.
+constexpr std::uint64_t leidosDeUnaVez = 4096;
 /// Files that are compared at once, all of them open.
 constexpr std::size_t porComparacion = 64;
 /// How much of a large file is asked of the disk before its turn.
@@ -100,7 +102,7 @@ private:
 
     void separarPorMarca()
     {
-        const auto merece = [&](Numero archivo) { return m_archivos.bytes(archivo) > 2 * bytesDeMarca; };
+        const auto merece = [&](Numero archivo) { return m_archivos.bytes(archivo) > leidosDeUnaVez; };
         m_candidatos.separar(claves(bytesDeMarca, std::uint64_t{0}, merece, [&](Numero, int descriptor) {
             return marcaRapida({m_leido.get(), leerTrozo(m_acceso, descriptor, m_leido.get(), bytesDeMarca)});
         }));

@@ -13,9 +13,9 @@ namespace ovanta {
 namespace {
 
 #ifdef O_SEARCH
-constexpr int soloPasar = O_SEARCH;
+constexpr int dePaso = O_SEARCH | O_DIRECTORY | O_CLOEXEC;
 #else
-constexpr int soloPasar = O_PATH;
+constexpr int dePaso = O_PATH | O_DIRECTORY | O_CLOEXEC;
 #endif
 
 /// The longest piece that ends before a slash and that the system takes at once.
@@ -34,7 +34,7 @@ int abrirPorTramos(std::string_view resto, int opciones)
         const bool ultimo = tramo.size() == resto.size();
         const int desde = carpeta.abierto() ? carpeta.numero() : AT_FDCWD;
         const int abierto =
-            ::openat(desde, tramo.c_str(), ultimo ? opciones : soloPasar | O_DIRECTORY | O_CLOEXEC);
+            ::openat(desde, tramo.c_str(), ultimo ? opciones : dePaso);
         if (ultimo || abierto < 0) return abierto;
         carpeta = Descriptor{abierto};
         resto.remove_prefix(tramo.size());
@@ -49,6 +49,11 @@ int abrirCamino(const char *ruta, int opciones)
     const int abierto = ::open(ruta, opciones);
     if (abierto >= 0 || errno != ENAMETOOLONG) return abierto;
     return abrirPorTramos(ruta, opciones);
+}
+
+int abrirCarpetaDePaso(const char *ruta)
+{
+    return abrirCamino(ruta, dePaso);
 }
 
 } // namespace ovanta

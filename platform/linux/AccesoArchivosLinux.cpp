@@ -36,11 +36,14 @@ constexpr std::array<unsigned, 20> sinArchivosDeNadie{
 
 } // namespace
 
-int AccesoArchivosLinux::abrir(const char *ruta)
+int AccesoArchivosLinux::abrirEn(int carpeta, const char *nombre)
 {
+    const auto abrirlo = [&](int opciones) {
+        return nombre[0] == '/' ? abrirCamino(nombre, opciones) : ::openat(carpeta, nombre, opciones);
+    };
     // Only the owner may leave the access time alone.
-    const int abierto = abrirCamino(ruta, soloLeer | O_NOATIME);
-    return abierto >= 0 || errno != EPERM ? abierto : abrirCamino(ruta, soloLeer);
+    const int abierto = abrirlo(soloLeer | O_NOATIME);
+    return abierto >= 0 || errno != EPERM ? abierto : abrirlo(soloLeer);
 }
 
 ssize_t AccesoArchivosLinux::leer(int descriptor, void *destino, std::size_t bytes)
