@@ -27,9 +27,10 @@ void AperturaAdelantada::prepararCarpeta(std::size_t lugar)
 
 Descriptor AperturaAdelantada::abrir(ListaArchivos::Numero archivo)
 {
-    Descriptor abierto = m_carpeta.abierto() ? Descriptor{m_acceso.abrirEn(m_carpeta.numero(),
-                                                                           m_archivos.nombre(archivo).data())}
-                                             : abrirPorRuta(archivo);
+    Descriptor abierto =
+        m_carpeta.abierto()
+            ? Descriptor{m_acceso.abrirEn(m_carpeta.numero(), m_archivos.nombre(archivo).data())}
+            : abrirPorRuta(archivo);
     if (abierto.abierto()) return abierto;
     for (const ListaArchivos::Numero otro : m_enlaces.otrosNombres(archivo)) {
         abierto = abrirPorRuta(otro);

@@ -1,6 +1,7 @@
 #include "analysis/CompararContenido.h"
 
 #include "analysis/LeerTrozo.h"
+#include "core/Tamano.h"
 
 #include <algorithm>
 #include <cstring>
@@ -12,6 +13,9 @@ namespace ovanta {
 namespace {
 
 constexpr std::size_t porTrozo = 128 << 10;
+/// Files that together are no larger are compared first and one of them read again for the digest, while the
+/// system still has it in memory: what turns out to have no equal is then not digested at all.
+constexpr std::uint64_t caben = 32 << 20;
 
 /// Bytes that were read from one place of one file.
 struct Trozo
@@ -36,16 +40,17 @@ struct Clase
 class Comparacion
 {
 public:
-    Comparacion(std::vector<PorComparar> archivos, AccesoArchivos &acceso, DigestosAparte &digestos)
-        : m_archivos(std::move(archivos)), m_acceso(acceso), m_digestos(digestos)
+    Comparacion(std::vector<PorComparar> archivos, AccesoArchivos &acceso, DigestosAparte &digestos,
+                const BanderaCancelacion *cancelacion)
+        : m_archivos(std::move(archivos)), m_acceso(acceso), m_digestos(digestos), m_cancelacion(cancelacion)
     {
     }
 
-    std::vector<ContenidoComparado> contenidos(std::uint64_t desde, const BanderaCancelacion *cancelacion)
+    std::vector<ContenidoComparado> contenidos(std::uint64_t desde)
     {
         empezar(desde);
         while (!m_clases.empty()) {
-            if (cancelada(cancelacion)) return {};
+            if (cancelada(m_cancelacion)) return {};
             avanzar();
         }
         return std::move(m_contenidos);
@@ -59,16 +64,26 @@ private:
         for (std::size_t i = 0; i < m_archivos.size(); ++i)
             if (m_archivos[i].archivo.abierto()) todos.miembros.push_back(i);
         if (todos.miembros.empty()) return;
-        todos.digesto = m_digestos.empezar();
-        for (std::uint64_t quedan = desde; quedan > 0;) {
-            leer(todos.miembros.front(), todos.trozo, std::min<std::uint64_t>(quedan, porTrozo));
-            if (todos.trozo.largo == 0) break;
-            m_digestos.agregar(todos.digesto, todos.trozo.datos.get(), todos.trozo.largo);
-            quedan -= todos.trozo.largo;
-        }
+        const std::size_t primero = todos.miembros.front();
+        if (multiplicarConTope(m_archivos[primero].bytes, todos.miembros.size()) > caben)
+            todos.digesto = digerir(primero, desde, todos.trozo);
         for (const std::size_t i : todos.miembros)
             ::lseek(m_archivos[i].archivo.numero(), static_cast<off_t>(desde), SEEK_SET);
         m_clases.push_back(std::move(todos));
+    }
+
+    /// The digest of what a file begins with.
+    DigestosAparte::EnCurso digerir(std::size_t archivo, std::uint64_t hasta, Trozo &lugar)
+    {
+        DigestosAparte::EnCurso digesto = m_digestos.empezar();
+        ::lseek(m_archivos[archivo].archivo.numero(), 0, SEEK_SET);
+        while (hasta > 0 && !cancelada(m_cancelacion)) {
+            leer(archivo, lugar, std::min<std::uint64_t>(hasta, porTrozo));
+            if (lugar.largo == 0) break;
+            m_digestos.agregar(digesto, lugar.datos.get(), lugar.largo);
+            hasta -= lugar.largo;
+        }
+        return digesto;
     }
 
     void leer(std::size_t archivo, Trozo &trozo, std::size_t bytes = porTrozo)
@@ -98,7 +113,7 @@ private:
             auto suya = std::ranges::find(partes, m_leido, &Clase::trozo);
             if (suya == partes.end()) {
                 Clase nueva;
-                nueva.digesto = m_digestos.copiar(partes.front().digesto);
+                if (partes.front().digesto) nueva.digesto = m_digestos.copiar(partes.front().digesto);
                 std::swap(nueva.trozo, m_leido);
                 suya = partes.insert(partes.end(), std::move(nueva));
             }
@@ -109,31 +124,28 @@ private:
 
     bool terminada(Clase &clase)
     {
-        if (clase.miembros.size() == 1 && !m_archivos[clase.miembros.front()].importaSolo)
-            clase.digesto.reset();
+        const bool importa = clase.miembros.size() > 1 || m_archivos[clase.miembros.front()].importaSolo;
+        if (!importa) clase.digesto.reset();
         if (clase.digesto) m_digestos.agregar(clase.digesto, clase.trozo.datos.get(), clase.trozo.largo);
         if (clase.trozo.largo == porTrozo) return false;
-        if (!clase.digesto) return !empiezaOtraVez(clase);
-        m_contenidos.push_back({m_digestos.terminar(clase.digesto), std::move(clase.miembros)});
+        if (!clase.digesto && (importa || !acabaDondeDebe(clase.miembros.front())))
+            clase.digesto = digerir(clase.miembros.front(), UINT64_MAX, clase.trozo);
+        if (clase.digesto)
+            m_contenidos.push_back({m_digestos.terminar(clase.digesto), std::move(clase.miembros)});
         return true;
     }
 
-    /// A content that ended elsewhere than its file should may be that of a file of another size: it is
-    /// read once more for its digest.
-    bool empiezaOtraVez(Clase &sola)
+    /// A content that ends elsewhere than its file should may be that of a file of another size.
+    bool acabaDondeDebe(std::size_t archivo) const
     {
-        PorComparar &suyo = m_archivos[sola.miembros.front()];
-        const off_t fin = ::lseek(suyo.archivo.numero(), 0, SEEK_CUR);
-        if (fin >= 0 && static_cast<std::uint64_t>(fin) == suyo.bytes) return false;
-        suyo.importaSolo = true;
-        ::lseek(suyo.archivo.numero(), 0, SEEK_SET);
-        sola.digesto = m_digestos.empezar();
-        return true;
+        const off_t fin = ::lseek(m_archivos[archivo].archivo.numero(), 0, SEEK_CUR);
+        return fin >= 0 && static_cast<std::uint64_t>(fin) == m_archivos[archivo].bytes;
     }
 
     std::vector<PorComparar> m_archivos;
     AccesoArchivos &m_acceso;
     DigestosAparte &m_digestos;
+    const BanderaCancelacion *m_cancelacion;
     std::vector<Clase> m_clases;
     std::vector<ContenidoComparado> m_contenidos;
     Trozo m_leido;
@@ -145,7 +157,7 @@ std::vector<ContenidoComparado> compararContenido(std::vector<PorComparar> archi
                                                   AccesoArchivos &acceso, DigestosAparte &digestos,
                                                   const BanderaCancelacion *cancelacion)
 {
-    return Comparacion(std::move(archivos), acceso, digestos).contenidos(desde, cancelacion);
+    return Comparacion(std::move(archivos), acceso, digestos, cancelacion).contenidos(desde);
 }
 
 } // namespace ovanta
