@@ -8,13 +8,16 @@ namespace ovanta {
 
 namespace {
 
-constexpr std::size_t bytesPorLote = 256 << 10;
+constexpr std::size_t bytesPorLote = 128 << 10;
 /// Steps without bytes need an end too.
 constexpr std::size_t pasosPorLote = 4096;
 
 } // namespace
 
-DigestosAparte::DigestosAparte() : m_hilo([this](const std::stop_token &alto) { servir(alto); }) {}
+DigestosAparte::DigestosAparte(std::function<bool()> mientrasTanto)
+    : m_mientrasTanto(std::move(mientrasTanto)), m_hilo([this](const std::stop_token &alto) { servir(alto); })
+{
+}
 
 DigestosAparte::~DigestosAparte()
 {
@@ -57,9 +60,18 @@ DigestosAparte::Lote &DigestosAparte::conLugar()
     return m_abierto;
 }
 
+/// Whether a batch is still waiting for the thread.
+bool DigestosAparte::espera()
+{
+    const std::lock_guard cerrojo(m_cerrojo);
+    return m_hayEntregado;
+}
+
 /// Changes the full batch for the one that was digested before.
 void DigestosAparte::entregar()
 {
+    while (espera() && m_mientrasTanto()) {
+    }
     std::unique_lock cerrojo(m_cerrojo);
     m_cambio.wait(cerrojo, [this] { return !m_hayEntregado; });
     std::swap(m_abierto, m_entregado);

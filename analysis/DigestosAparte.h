@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <deque>
 #include <exception>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <thread>
@@ -24,8 +25,10 @@ public:
     /// A digest under way; touched only through this class.
     using EnCurso = std::shared_ptr<Sha256>;
 
+    /// `mientrasTanto` is called, again and again, where the asking thread would have to wait: it does a
+    /// little of something else, asks for no digest, and gives false when it has nothing left to do.
     /// `std::system_error` where there is no thread.
-    DigestosAparte();
+    explicit DigestosAparte(std::function<bool()> mientrasTanto);
     /// Drops what is still under way.
     ~DigestosAparte();
     DigestosAparte(const DigestosAparte &) = delete;
@@ -57,10 +60,12 @@ private:
     };
 
     Lote &conLugar();
+    bool espera();
     void entregar();
     void servir(const std::stop_token &alto);
     static void digerir(const Lote &lote);
 
+    std::function<bool()> m_mientrasTanto;
     std::deque<Digesto> m_digestos; ///< a deque, whose members stay where they are
     Lote m_abierto;                 ///< of the thread that asks
     std::mutex m_cerrojo;

@@ -37,12 +37,12 @@ def ordenes(bin_, carpeta, grupos):
     duplicados = {
         NUESTRO: [f"{bin_}/ovanta-banco", "dups", carpeta],
         "the limit": [f"{bin_}/referencia_limite", grupos],
-        "jdupes": ["jdupes", "-r", "-q", "-H", carpeta],
-        "jdupes -Q": ["jdupes", "-r", "-q", "-H", "-Q", carpeta],
+        "jdupes": ["jdupes", "-r", "-q", carpeta],
+        "jdupes -Q": ["jdupes", "-r", "-q", "-Q", carpeta],
         "rdfind -checksum sha256": ["rdfind", "-checksum", "sha256", "-dryrun", "true", "-makeresultsfile", "false",
-                                    "-removeidentinode", "false", carpeta],
+                                    carpeta],
         "rmlint": ["rmlint", "-T", "df", "-o", "csv:/dev/null", carpeta],
-        "fdupes": ["fdupes", "-r", "-q", "-H", "-n", carpeta],
+        "fdupes": ["fdupes", "-r", "-q", "-n", carpeta],
     }
     recorrido = {
         NUESTRO: [f"{bin_}/ovanta-banco", "walk", carpeta],
