@@ -6,6 +6,7 @@
 #include "platform/AccesoArchivos.h"
 
 #include <array>
+#include <optional>
 #include <span>
 #include <string>
 
@@ -27,7 +28,9 @@ private:
     static constexpr std::size_t adelanto = 32;
 
     void abrirHasta(std::size_t fin);
+    void prepararCarpeta(std::size_t lugar);
     Descriptor abrir(ListaArchivos::Numero archivo);
+    Descriptor abrirPorRuta(ListaArchivos::Numero archivo);
 
     const ListaArchivos &m_archivos;
     const EnlacesFisicos &m_enlaces;
@@ -37,6 +40,8 @@ private:
     std::array<Descriptor, adelanto> m_abiertos; ///< a ring
     std::size_t m_abiertosHasta = 0;
     std::size_t m_turno = 0;
+    Descriptor m_carpeta; ///< of the file that was opened last, where the next lies there too
+    std::optional<std::uint32_t> m_numeroDeCarpeta;
     std::string m_ruta;
 };
 

@@ -8,7 +8,10 @@ using Numero = ListaArchivos::Numero;
 
 } // namespace
 
-Candidatos::Candidatos(const ListaArchivos &archivos) : Candidatos(archivos, mismoTamano(archivos)) {}
+Candidatos::Candidatos(const ListaArchivos &archivos, IntervaloDeTamano tamanos)
+    : Candidatos(archivos, mismoTamano(archivos, tamanos))
+{
+}
 
 Candidatos::Candidatos(const ListaArchivos &archivos, std::vector<Numero> mismoTamano)
     : m_enlaces(archivos, mismoTamano)
@@ -22,11 +25,12 @@ Candidatos::Candidatos(const ListaArchivos &archivos, std::vector<Numero> mismoT
     separar(bytes);
 }
 
-std::vector<Numero> Candidatos::mismoTamano(const ListaArchivos &archivos)
+std::vector<Numero> Candidatos::mismoTamano(const ListaArchivos &archivos, IntervaloDeTamano tamanos)
 {
-    std::vector<Numero> orden(archivos.size());
-    std::iota(orden.begin(), orden.end(), Numero{0});
     const auto bytes = [&](Numero i) { return archivos.bytes(i); };
+    std::vector<Numero> orden;
+    for (Numero i = 0; i < archivos.size(); ++i)
+        if (bytes(i) >= tamanos.desde && bytes(i) <= tamanos.hasta) orden.push_back(i);
     std::ranges::sort(orden, {}, bytes);
     std::size_t quedan = 0;
     for (std::size_t i = 0; i < orden.size(); ++i) {

@@ -18,12 +18,19 @@ struct Candidato
     std::uint32_t conjunto = 0;
 };
 
+/// Sizes of files, both ends among them.
+struct IntervaloDeTamano
+{
+    std::uint64_t desde = 0;
+    std::uint64_t hasta = UINT64_MAX;
+};
+
 /// Candidates in the order of the walk. Each set has at least two names.
 class Candidatos
 {
 public:
-    /// The files that share their size with another.
-    explicit Candidatos(const ListaArchivos &archivos);
+    /// The files of `tamanos` bytes that share their size with another.
+    Candidatos(const ListaArchivos &archivos, IntervaloDeTamano tamanos);
 
     const std::vector<Candidato> &todos() const { return m_todos; }
     const EnlacesFisicos &enlaces() const { return m_enlaces; }
@@ -48,7 +55,8 @@ public:
     }
 
 private:
-    static std::vector<ListaArchivos::Numero> mismoTamano(const ListaArchivos &archivos);
+    static std::vector<ListaArchivos::Numero> mismoTamano(const ListaArchivos &archivos,
+                                                          IntervaloDeTamano tamanos);
 
     /// Of `orden`, in which equals stand side by side, keeps those with an equal as the new sets.
     template <typename Iguales>

@@ -1,6 +1,7 @@
 #include "analysis/CompararContenido.h"
 
 #include "analysis/LeerTrozo.h"
+#include "core/Tamano.h"
 
 #include <algorithm>
 #include <cstring>
@@ -12,6 +13,9 @@ namespace ovanta {
 namespace {
 
 constexpr std::size_t porTrozo = 128 << 10;
+/// Files that together are no larger are compared first and one of them read again for the digest, while the
+/// system still has it in memory: what turns out to have no equal is then not digested at all.
+constexpr std::uint64_t caben = 32 << 20;
 
 /// Bytes that were read from one place of one file.
 struct Trozo
@@ -28,7 +32,7 @@ struct Trozo
 /// Files that were equal so far.
 struct Clase
 {
-    Sha256 sha;
+    DigestosAparte::EnCurso digesto;
     std::vector<std::size_t> miembros;
     Trozo trozo; ///< what its members have at the place under way
 };
@@ -36,44 +40,55 @@ struct Clase
 class Comparacion
 {
 public:
-    Comparacion(std::vector<Descriptor> archivos, AccesoArchivos &acceso)
-        : m_archivos(std::move(archivos)), m_digestos(m_archivos.size()), m_acceso(acceso)
+    Comparacion(std::vector<PorComparar> archivos, AccesoArchivos &acceso, DigestosAparte &digestos,
+                const BanderaCancelacion *cancelacion)
+        : m_archivos(std::move(archivos)), m_acceso(acceso), m_digestos(digestos), m_cancelacion(cancelacion)
     {
     }
 
-    std::vector<std::optional<Digesto>> digestos(std::uint64_t desde, const BanderaCancelacion *cancelacion)
+    std::vector<ContenidoComparado> contenidos(std::uint64_t desde)
     {
-        if (!empezar(desde)) return m_digestos;
+        empezar(desde);
         while (!m_clases.empty()) {
-            if (cancelada(cancelacion)) return std::vector<std::optional<Digesto>>(m_archivos.size());
+            if (cancelada(m_cancelacion)) return {};
             avanzar();
         }
-        return m_digestos;
+        return std::move(m_contenidos);
     }
 
 private:
     /// The first class holds all that are open, with the equal beginning digested once.
-    bool empezar(std::uint64_t desde)
+    void empezar(std::uint64_t desde)
     {
         Clase todos;
         for (std::size_t i = 0; i < m_archivos.size(); ++i)
-            if (m_archivos[i].abierto()) todos.miembros.push_back(i);
-        if (todos.miembros.empty()) return false;
-        for (std::uint64_t quedan = desde; quedan > 0;) {
-            leer(todos.miembros.front(), todos.trozo, std::min<std::uint64_t>(quedan, porTrozo));
-            if (todos.trozo.largo == 0) break;
-            todos.sha.agregar(todos.trozo.datos.get(), todos.trozo.largo);
-            quedan -= todos.trozo.largo;
-        }
+            if (m_archivos[i].archivo.abierto()) todos.miembros.push_back(i);
+        if (todos.miembros.empty()) return;
+        const std::size_t primero = todos.miembros.front();
+        if (multiplicarConTope(m_archivos[primero].bytes, todos.miembros.size()) > caben)
+            todos.digesto = digerir(primero, desde, todos.trozo);
         for (const std::size_t i : todos.miembros)
-            ::lseek(m_archivos[i].numero(), static_cast<off_t>(desde), SEEK_SET);
+            ::lseek(m_archivos[i].archivo.numero(), static_cast<off_t>(desde), SEEK_SET);
         m_clases.push_back(std::move(todos));
-        return true;
+    }
+
+    /// The digest of what a file begins with.
+    DigestosAparte::EnCurso digerir(std::size_t archivo, std::uint64_t hasta, Trozo &lugar)
+    {
+        DigestosAparte::EnCurso digesto = m_digestos.empezar();
+        ::lseek(m_archivos[archivo].archivo.numero(), 0, SEEK_SET);
+        while (hasta > 0 && !cancelada(m_cancelacion)) {
+            leer(archivo, lugar, std::min<std::uint64_t>(hasta, porTrozo));
+            if (lugar.largo == 0) break;
+            m_digestos.agregar(digesto, lugar.datos.get(), lugar.largo);
+            hasta -= lugar.largo;
+        }
+        return digesto;
     }
 
     void leer(std::size_t archivo, Trozo &trozo, std::size_t bytes = porTrozo)
     {
-        trozo.largo = leerTrozo(m_acceso, m_archivos[archivo].numero(), trozo.datos.get(), bytes);
+        trozo.largo = leerTrozo(m_acceso, m_archivos[archivo].archivo.numero(), trozo.datos.get(), bytes);
     }
 
     void avanzar()
@@ -98,40 +113,51 @@ private:
             auto suya = std::ranges::find(partes, m_leido, &Clase::trozo);
             if (suya == partes.end()) {
                 Clase nueva;
-                nueva.sha.copiar(partes.front().sha);
+                if (partes.front().digesto) nueva.digesto = m_digestos.copiar(partes.front().digesto);
                 std::swap(nueva.trozo, m_leido);
                 suya = partes.insert(partes.end(), std::move(nueva));
             }
             suya->miembros.push_back(miembros[m]);
         }
-        for (Clase &parte : partes)
-            parte.sha.agregar(parte.trozo.datos.get(), parte.trozo.largo);
         return partes;
     }
 
     bool terminada(Clase &clase)
     {
+        const bool importa = clase.miembros.size() > 1 || m_archivos[clase.miembros.front()].importaSolo;
+        if (!importa) clase.digesto.reset();
+        if (clase.digesto) m_digestos.agregar(clase.digesto, clase.trozo.datos.get(), clase.trozo.largo);
         if (clase.trozo.largo == porTrozo) return false;
-        const Digesto digesto = clase.sha.terminar();
-        for (const std::size_t i : clase.miembros)
-            m_digestos[i] = digesto;
+        if (!clase.digesto && (importa || !acabaDondeDebe(clase.miembros.front())))
+            clase.digesto = digerir(clase.miembros.front(), UINT64_MAX, clase.trozo);
+        if (clase.digesto)
+            m_contenidos.push_back({m_digestos.terminar(clase.digesto), std::move(clase.miembros)});
         return true;
     }
 
-    std::vector<Descriptor> m_archivos;
-    std::vector<std::optional<Digesto>> m_digestos;
+    /// A content that ends elsewhere than its file should may be that of a file of another size.
+    bool acabaDondeDebe(std::size_t archivo) const
+    {
+        const off_t fin = ::lseek(m_archivos[archivo].archivo.numero(), 0, SEEK_CUR);
+        return fin >= 0 && static_cast<std::uint64_t>(fin) == m_archivos[archivo].bytes;
+    }
+
+    std::vector<PorComparar> m_archivos;
     AccesoArchivos &m_acceso;
+    DigestosAparte &m_digestos;
+    const BanderaCancelacion *m_cancelacion;
     std::vector<Clase> m_clases;
+    std::vector<ContenidoComparado> m_contenidos;
     Trozo m_leido;
 };
 
 } // namespace
 
-std::vector<std::optional<Digesto>> digestosPorComparacion(std::vector<Descriptor> archivos,
-                                                           std::uint64_t desde, AccesoArchivos &acceso,
-                                                           const BanderaCancelacion *cancelacion)
+std::vector<ContenidoComparado> compararContenido(std::vector<PorComparar> archivos, std::uint64_t desde,
+                                                  AccesoArchivos &acceso, DigestosAparte &digestos,
+                                                  const BanderaCancelacion *cancelacion)
 {
-    return Comparacion(std::move(archivos), acceso).digestos(desde, cancelacion);
+    return Comparacion(std::move(archivos), acceso, digestos, cancelacion).contenidos(desde);
 }
 
 } // namespace ovanta

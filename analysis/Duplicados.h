@@ -20,7 +20,8 @@ struct ContenidoIgual
 /// Finds the files with the same content by a funnel whose stages read ever more of ever fewer files:
 /// equal size, equal first KiB, equal first 64 KiB, equal SHA-256 of all. A file that
 /// cannot be opened drops out; a read error ends a content as its end would. In no particular order;
-/// empty where it was stopped. Blocking, one file after another; any thread.
+/// empty where it was stopped. Blocking, one file after another, with one thread more for their digests;
+/// any thread.
 std::vector<ContenidoIgual> contenidosIguales(const ListaArchivos &archivos, AccesoArchivos &acceso,
                                               const BanderaCancelacion *cancelacion);
 

@@ -38,7 +38,11 @@ public:
     Fecha modificado(Numero i) const;
     std::uint64_t inodo(Numero i) const { return m_registros[i].inodo; }
     std::uint64_t dispositivo(Numero i) const { return m_dispositivos[m_registros[i].dispositivo]; }
+    /// Ends with NUL.
     std::string_view nombre(Numero i) const;
+    /// The number of its folder.
+    std::uint32_t carpeta(Numero i) const { return m_registros[i].carpeta; }
+    const std::string &rutaDeCarpeta(std::uint32_t carpeta) const { return m_carpetas[carpeta]; }
     /// Writes the whole path into `ruta`, whose memory is used again.
     void escribirRuta(Numero i, std::string &ruta) const;
     std::string ruta(Numero i) const;

@@ -16,16 +16,19 @@ namespace {
 
 constexpr std::uint64_t entradasPorAviso = 2000;
 
-struct CerrarCarpeta
-{
-    void operator()(DIR *carpeta) const { ::closedir(carpeta); }
-};
-using CarpetaAbierta = std::unique_ptr<DIR, CerrarCarpeta>;
+using CarpetaAbierta = std::shared_ptr<DIR>;
+
+/// A listed folder stays open while its subfolders wait, so that each is opened by its name alone: depth
+/// first these are as many as the tree is deep. What lies deeper than this is opened by its whole path, or a
+/// tree could use all descriptors up.
+constexpr unsigned honduraConMadre = 64;
 
 struct Pendiente
 {
     std::string ruta;
     std::optional<dev_t> dispositivoMadre; ///< none for a root
+    unsigned hondura = 0;                  ///< 0 for a root
+    CarpetaAbierta madre;                  ///< or none
 };
 
 struct CarpetaVista
@@ -56,12 +59,12 @@ public:
     ListaArchivos andar()
     {
         for (const std::string &raiz : m_recorrido.raices)
-            m_pendientes.push_back({raiz, std::nullopt});
+            m_pendientes.push_back({raiz, std::nullopt, 0, nullptr});
         while (!m_pendientes.empty()) {
             if (cancelada(m_cancelacion)) return {};
-            const Pendiente siguiente = std::move(m_pendientes.back());
+            m_pendiente = std::move(m_pendientes.back());
             m_pendientes.pop_back();
-            listar(siguiente);
+            listar();
         }
         if (cancelada(m_cancelacion)) return {};
         if (m_alAvanzar) m_alAvanzar(m_vistas);
@@ -69,34 +72,43 @@ public:
     }
 
 private:
-    CarpetaAbierta abrir(const Pendiente &pendiente)
+    int abrirDescriptor() const
     {
-        const int alFinal = pendiente.dispositivoMadre ? O_NOFOLLOW : 0;
-        Descriptor abierta{
-            abrirCamino(pendiente.ruta.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK | alFinal)};
+        constexpr int opciones = O_RDONLY | O_DIRECTORY | O_CLOEXEC | O_NONBLOCK;
+        const std::string &ruta = m_pendiente.ruta;
+        if (m_pendiente.madre)
+            return ::openat(::dirfd(m_pendiente.madre.get()), ruta.c_str() + ruta.rfind('/') + 1,
+                            opciones | O_NOFOLLOW);
+        return abrirCamino(ruta.c_str(), m_pendiente.hondura > 0 ? opciones | O_NOFOLLOW : opciones);
+    }
+
+    CarpetaAbierta abrir()
+    {
+        Descriptor abierta{abrirDescriptor()};
         struct stat atributos = {};
         if (!abierta.abierto() || ::fstat(abierta.numero(), &atributos) != 0) return nullptr;
         if (!m_vistasYa.insert({atributos.st_dev, atributos.st_ino}).second) return nullptr;
-        if (pendiente.dispositivoMadre != atributos.st_dev && m_acceso.esVirtual(abierta.numero()))
+        if (m_pendiente.dispositivoMadre != atributos.st_dev && m_acceso.esVirtual(abierta.numero()))
             return nullptr;
         m_dispositivo = atributos.st_dev;
-        CarpetaAbierta carpeta{::fdopendir(abierta.numero())};
-        if (carpeta) abierta.soltar();
-        return carpeta;
+        DIR *const carpeta = ::fdopendir(abierta.numero());
+        if (!carpeta) return nullptr;
+        abierta.soltar();
+        return CarpetaAbierta(carpeta, [](DIR *leida) { ::closedir(leida); });
     }
 
-    void listar(const Pendiente &pendiente)
+    void listar()
     {
-        const CarpetaAbierta carpeta = abrir(pendiente);
-        if (!carpeta) return;
+        m_carpeta = abrir();
+        if (!m_carpeta) return;
         m_numeroDeCarpeta.reset();
-        m_ruta.assign(pendiente.ruta).append("/");
+        m_ruta.assign(m_pendiente.ruta).append("/");
         const std::size_t base = m_ruta.size();
-        while (const dirent *entrada = ::readdir(carpeta.get())) {
+        while (const dirent *entrada = ::readdir(m_carpeta.get())) {
             const std::string_view nombre = entrada->d_name;
             m_ruta.resize(base);
             m_ruta.append(nombre);
-            if (!queda(nombre)) visitar(::dirfd(carpeta.get()), *entrada, base);
+            if (!queda(nombre)) visitar(::dirfd(m_carpeta.get()), *entrada, base);
             if (m_vistas % entradasPorAviso == 0 && cancelada(m_cancelacion)) return;
         }
     }
@@ -131,7 +143,10 @@ private:
 
     void apilar(std::string_view nombre)
     {
-        if (!m_recorrido.ignorados.esPaquete(nombre)) m_pendientes.push_back({m_ruta, m_dispositivo});
+        if (m_recorrido.ignorados.esPaquete(nombre)) return;
+        const unsigned hondura = m_pendiente.hondura + 1;
+        m_pendientes.push_back(
+            {m_ruta, m_dispositivo, hondura, hondura <= honduraConMadre ? m_carpeta : nullptr});
     }
 
     void anotar(std::string_view nombre, std::size_t base, const struct stat &atributos)
@@ -152,7 +167,9 @@ private:
     std::vector<Pendiente> m_pendientes;
     std::unordered_set<CarpetaVista, MezclaDeCarpeta> m_vistasYa;
     std::string m_ruta;                             ///< of the entry under way
-    dev_t m_dispositivo = 0;                        ///< of the folder under way
+    Pendiente m_pendiente;                          ///< the folder under way
+    CarpetaAbierta m_carpeta;                       ///< the same, opened
+    dev_t m_dispositivo = 0;                        ///< of the same
     std::optional<std::uint32_t> m_numeroDeCarpeta; ///< of the folder under way, once it has a file
     std::uint64_t m_vistas = 0;
 };

@@ -55,4 +55,9 @@ int abrirCamino(const char *ruta, int opciones)
     return abrirPorTramos(ruta, opciones);
 }
 
+int abrirCarpetaDePaso(const char *ruta)
+{
+    return abrirCamino(ruta, soloPasar | O_DIRECTORY | O_CLOEXEC);
+}
+
 } // namespace ovanta

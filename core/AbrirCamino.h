@@ -19,4 +19,7 @@ int abrirCamino(const char *ruta, int opciones);
 /// lstat(2) for such a path. -1 with `errno` on failure.
 int describirCamino(const char *ruta, struct stat *atributos);
 
+/// The same for a folder that is only to be passed through, as by openat(2).
+int abrirCarpetaDePaso(const char *ruta);
+
 } // namespace ovanta

@@ -16,7 +16,9 @@ public:
 
     /// Opens a regular file, and nothing else, for reading, its access time left alone where that can be.
     /// Never follows a final link, never waits for the other end of a pipe. -1 with `errno` on failure.
-    virtual int abrir(const char *ruta) = 0;
+    /// `nombre` is a name in the open folder, or any absolute path.
+    virtual int abrirEn(int carpeta, const char *nombre) = 0;
+    int abrir(const char *ruta) { return abrirEn(-1, ruta); }
 
     /// As read(2).
     virtual ssize_t leer(int descriptor, void *destino, std::size_t bytes) = 0;

@@ -52,13 +52,13 @@ struct HerramientasDePrueba final : Herramientas
 /// Plain reads; `alAbrir` may hold one up.
 struct AccesoArchivosDePrueba final : AccesoArchivos
 {
-    std::function<void(const std::string &ruta)> alAbrir = [](const std::string &) {};
+    std::function<void(const std::string &nombre)> alAbrir = [](const std::string &) {};
     std::function<void()> alMirarCarpeta = [] {};
 
-    int abrir(const char *ruta) override
+    int abrirEn(int carpeta, const char *nombre) override
     {
-        alAbrir(ruta);
-        return ::open(ruta, O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
+        alAbrir(nombre);
+        return ::openat(carpeta, nombre, O_RDONLY | O_NOFOLLOW | O_CLOEXEC);
     }
     ssize_t leer(int descriptor, void *destino, std::size_t bytes) override
     {

@@ -37,11 +37,14 @@ constexpr std::array<unsigned, 20> sinArchivosDeNadie{
 
 } // namespace
 
-int AccesoArchivosLinux::abrir(const char *ruta)
+int AccesoArchivosLinux::abrirEn(int carpeta, const char *nombre)
 {
+    const auto abrirlo = [&](int opciones) {
+        return nombre[0] == '/' ? abrirCamino(nombre, opciones) : ::openat(carpeta, nombre, opciones);
+    };
     // Only the owner may leave the access time alone.
-    Descriptor abierto{abrirCamino(ruta, soloLeer | O_NOATIME)};
-    if (!abierto.abierto() && errno == EPERM) abierto = Descriptor{abrirCamino(ruta, soloLeer)};
+    Descriptor abierto{abrirlo(soloLeer | O_NOATIME)};
+    if (!abierto.abierto() && errno == EPERM) abierto = Descriptor{abrirlo(soloLeer)};
     struct stat atributos = {};
     if (!abierto.abierto() || ::fstat(abierto.numero(), &atributos) != 0) return -1;
     if (S_ISREG(atributos.st_mode)) return abierto.soltar();

@@ -7,7 +7,7 @@ namespace ovanta {
 class AccesoArchivosLinux final : public AccesoArchivos
 {
 public:
-    int abrir(const char *ruta) override;
+    int abrirEn(int carpeta, const char *nombre) override;
     ssize_t leer(int descriptor, void *destino, std::size_t bytes) override;
     void anticipar(int descriptor, std::uint64_t bytes) override;
     std::uint64_t bytesCompartidos(int descriptor) override;

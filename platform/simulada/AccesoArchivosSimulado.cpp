@@ -5,9 +5,9 @@
 
 namespace ovanta {
 
-int AccesoArchivosSimulado::abrir(const char *ruta)
+int AccesoArchivosSimulado::abrirEn(int carpeta, const char *nombre)
 {
-    return ::open(ruta, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+    return ::openat(carpeta, nombre, O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
 }
 
 ssize_t AccesoArchivosSimulado::leer(int descriptor, void *destino, std::size_t bytes)

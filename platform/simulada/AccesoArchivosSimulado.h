@@ -9,7 +9,7 @@ namespace ovanta {
 class AccesoArchivosSimulado final : public AccesoArchivos
 {
 public:
-    int abrir(const char *ruta) override;
+    int abrirEn(int carpeta, const char *nombre) override;
     ssize_t leer(int descriptor, void *destino, std::size_t bytes) override;
     void anticipar(int, std::uint64_t) override {}
     std::uint64_t bytesCompartidos(int) override { return 0; }

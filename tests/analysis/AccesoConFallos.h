@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <fcntl.h>
 #include <map>
 #include <set>
 #include <string>
@@ -26,13 +27,13 @@ public:
         return hallado == m_leidos.end() ? 0 : hallado->second;
     }
 
-    int abrir(const char *ruta) override
+    int abrirEn(int carpeta, const char *nombre) override
     {
-        if (m_cerrados.contains(inodoDe(ruta))) {
+        if (m_cerrados.contains(inodoDe(nombre, carpeta))) {
             errno = EACCES;
             return -1;
         }
-        return m_real.abrir(ruta);
+        return m_real.abrirEn(carpeta, nombre);
     }
 
     ssize_t leer(int descriptor, void *destino, std::size_t bytes) override
@@ -58,10 +59,10 @@ public:
     bool estaEnLaNube(const struct stat &) override { return false; }
 
 private:
-    static ino_t inodoDe(const std::string &ruta)
+    static ino_t inodoDe(const std::string &ruta, int carpeta = -1)
     {
         struct stat atributos = {};
-        ::lstat(ruta.c_str(), &atributos);
+        ::fstatat(carpeta, ruta.c_str(), &atributos, AT_SYMLINK_NOFOLLOW);
         return atributos.st_ino;
     }
 

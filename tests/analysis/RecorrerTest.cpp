@@ -5,6 +5,7 @@
 #include "tests/analysis/ArbolDeArchivos.h"
 
 #include <gmock/gmock.h>
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 
@@ -151,6 +152,25 @@ TEST(Recorrer, anUnreadableFolderIsPassedBy)
     const auto archivos = arbol.archivos();
     ::chmod(arbol.en("cerrada").c_str(), 0700);
     EXPECT_THAT(relativas(archivos, arbol.raiz()), ElementsAre("abierta/x"));
+}
+
+TEST(Recorrer, aTreeDeeperThanThereAreDescriptorsIsListedWhole)
+{
+    const ArbolDeArchivos arbol;
+    constexpr int hondura = 150;
+    std::string carpeta;
+    for (int i = 0; i < hondura; ++i) {
+        for (const char *rama : {"a", "b", "c", "d"})
+            arbol.escribir(carpeta + rama + "/x", "uno");
+        carpeta += "n/";
+    }
+    rlimit antes = {};
+    ::getrlimit(RLIMIT_NOFILE, &antes);
+    const rlimit pocos{.rlim_cur = 110, .rlim_max = antes.rlim_max};
+    ::setrlimit(RLIMIT_NOFILE, &pocos);
+    const ListaArchivos archivos = arbol.archivos();
+    ::setrlimit(RLIMIT_NOFILE, &antes);
+    EXPECT_EQ(archivos.size(), 4U * hondura);
 }
 
 TEST(Recorrer, aNameThatIsNotUtf8ArrivesByteByByte)
