@@ -1,6 +1,5 @@
+#include "tests/Freno.h"
 #include "tests/core/ApoyoRuleStore.h"
-
-#include <condition_variable>
 
 using namespace ovanta;
 using namespace ovanta::pruebas;
@@ -10,26 +9,6 @@ namespace {
 
 struct RuleStoreMedir : RuleStoreEn
 {
-};
-
-/// Holds a tool until it is let go.
-struct Puerta
-{
-    std::mutex cerrojo;
-    std::condition_variable aviso;
-    bool abierta = false;
-
-    void abrir()
-    {
-        const std::lock_guard guardia{cerrojo};
-        abierta = true;
-        aviso.notify_all();
-    }
-    void esperar()
-    {
-        std::unique_lock guardia{cerrojo};
-        aviso.wait(guardia, [this] { return abierta; });
-    }
 };
 
 } // namespace
@@ -119,9 +98,9 @@ TEST_F(RuleStoreMedir, measuringWhileMeasuringHasNoEffectAndDoesNotQueue)
     cargar({entrada("a", "~/a")});
     responder("1\t/x");
     medir();
-    Puerta puerta;
-    plataforma.m_herramientas.alEjecutar = [&puerta](const auto &, const auto &) {
-        puerta.esperar();
+    Freno freno;
+    plataforma.m_herramientas.alEjecutar = [&freno](const auto &, const auto &) {
+        freno.aqui()();
         return std::string("5\t/x");
     };
     auto primera = store.medir();
@@ -129,7 +108,7 @@ TEST_F(RuleStoreMedir, measuringWhileMeasuringHasNoEffectAndDoesNotQueue)
     const auto segunda = store.medir();
     EXPECT_TRUE(segunda.isReady());
     EXPECT_EQ(bytes(0), 1024u);
-    puerta.abrir();
+    freno.soltar();
     QCoro::waitFor(std::move(primera));
     EXPECT_EQ(bytes(0), 5120u);
     EXPECT_FALSE(store.midiendo());
@@ -141,14 +120,14 @@ TEST_F(RuleStoreMedir, sizesGoToTheRulesThatStandWhenTheMeasurementEnds)
     crear("a");
     crear("b");
     cargar({entrada("a", "~/a")});
-    Puerta puerta;
-    plataforma.m_herramientas.alEjecutar = [&puerta](const auto &, const auto &) {
-        puerta.esperar();
+    Freno freno;
+    plataforma.m_herramientas.alEjecutar = [&freno](const auto &, const auto &) {
+        freno.aqui()();
         return std::string("5\t/x");
     };
     auto medicion = store.medir();
     cargar({entrada("b", "~/b"), entrada("otra", "~/a")});
-    puerta.abrir();
+    freno.soltar();
     QCoro::waitFor(std::move(medicion));
     EXPECT_EQ(bytes(0), std::nullopt);
     EXPECT_EQ(bytes(1), 5120u);
@@ -188,16 +167,16 @@ TEST_F(RuleStoreMedir, theStoreMayGoWhileItMeasures)
 {
     crear("a");
     cargar({entrada("a", "~/a")});
-    Puerta puerta;
-    plataforma.m_herramientas.alEjecutar = [&puerta](const auto &, const auto &) {
-        puerta.esperar();
+    Freno freno;
+    plataforma.m_herramientas.alEjecutar = [&freno](const auto &, const auto &) {
+        freno.aqui()();
         return std::string("5\t/x");
     };
     auto otro = std::make_unique<RuleStore>(plataforma);
     otro->cargar();
     auto medicion = otro->medir();
     otro.reset();
-    puerta.abrir();
+    freno.soltar();
     QCoro::waitFor(std::move(medicion));
     EXPECT_EQ(plataforma.m_herramientas.llamadas.size(), 1u);
 }
