@@ -12,7 +12,7 @@ using namespace ovanta;
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *datos, std::size_t cuantos)
 {
     const std::string_view bytes{reinterpret_cast<const char *>(datos), cuantos};
-    const auto valor = leerPlist(bytes);
+    const auto valor = leerPlist(bytes, {.objetos = 5000, .bytes = 1 << 20}); // so that many lists are tried
     if (!valor) {
         if (valor.error().motivo.empty()) std::abort();
         return 0;
