@@ -236,8 +236,8 @@ TEST_F(ScannerTest, withoutTheToolsTheFilesAreShownAndNoFolders)
 TEST_F(ScannerTest, whatWasThrownAwayIsNotAnalysedWhereverTheTrashIs)
 {
     llenar();
-    arbol.escribir("Documents/datos/Trash/files/copia.dmg", "igual");
-    plataforma.m_lugares.papeleras = {arbol.en("Documents/datos/Trash")};
+    arbol.escribir("Downloads/datos/Trash/files/copia.dmg", "igual");
+    plataforma.m_lugares.papeleras = {arbol.en("Downloads/datos/Trash")};
     analizar();
     EXPECT_EQ(scanner->archivosVistos(), 2U);
     EXPECT_EQ(scanner->duplicados()->front().copias.size(), 2U);
