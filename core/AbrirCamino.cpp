@@ -33,8 +33,7 @@ int abrirPorTramos(std::string_view resto, int opciones)
         const std::string tramo(primerTramo(resto));
         const bool ultimo = tramo.size() == resto.size();
         const int desde = carpeta.abierto() ? carpeta.numero() : AT_FDCWD;
-        const int abierto =
-            ::openat(desde, tramo.c_str(), ultimo ? opciones : dePaso);
+        const int abierto = ::openat(desde, tramo.c_str(), ultimo ? opciones : dePaso);
         if (ultimo || abierto < 0) return abierto;
         carpeta = Descriptor{abierto};
         resto.remove_prefix(tramo.size());
