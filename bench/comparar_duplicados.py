@@ -5,8 +5,8 @@ in turn, round after round, so that what else the machine does falls on all alik
     comparar_duplicados.py BIN_FOLDER FOLDER [--rondas N] [--frias N] [--tiempo-real]
 
 Prints two tables. `wall`, `CPU` (user and system) and `peak` are the least of the rounds; the ratio is the
-median over the rounds of Ovanta's wall time by the other's. `read` is what came from the disk. Programs that
-are not installed are left out. Cold rounds empty the page cache, which only root may do.
+median over the rounds of Ovanta's wall time by the other's. `read` is what came from the disk. A peak below that
+of this script cannot be told. Programs that are not installed are left out. Cold rounds empty the page cache, which only root may do.
 """
 import argparse
 import os
@@ -88,12 +88,15 @@ def imprimir(titulo, medidas):
     print(f"\n| {titulo} | wall | CPU | read | peak | Ovanta's wall by this | its peak by this |")
     print("|---|---|---|---|---|---|---|")
     nuestras = medidas[NUESTRO]
+    propia = resource.getrusage(resource.RUSAGE_SELF).ru_maxrss * 1024  # a child inherits it
     for nombre, suyas in medidas.items():
         razon = statistics.median(a.pared / b.pared for a, b in zip(nuestras, suyas))
         cumbre = statistics.median(a.cumbre / b.cumbre for a, b in zip(nuestras, suyas))
+        se_sabe = all(m.cumbre > propia for m in nuestras + suyas)
         menor = {campo: min(getattr(m, campo) for m in suyas) for campo in Medida.__annotations__}
+        memoria = f"{menor['cumbre'] / 2**20:.0f} MiB" if menor["cumbre"] > propia else "-"
         print(f"| {nombre} | {menor['pared']:.2f} s | {menor['procesador']:.2f} s | {menor['leidos'] / 2**20:.0f} MiB "
-              f"| {menor['cumbre'] / 2**20:.0f} MiB | {razon:.2f} | {cumbre:.2f} |", flush=True)
+              f"| {memoria} | {razon:.2f} | {f'{cumbre:.2f}' if se_sabe else '-'} |", flush=True)
 
 
 def grupos_de_ovanta(fichero):
@@ -101,20 +104,21 @@ def grupos_de_ovanta(fichero):
             for grupo in Path(fichero).read_bytes().split(b"\0\0") if grupo}
 
 
-def grupos_de_jdupes(carpeta):
-    salida = subprocess.run(["jdupes", "-r", "-q", "-H", carpeta], stdout=subprocess.PIPE, stderr=subprocess.DEVNULL,
-                            check=True).stdout
-    return {frozenset(os.fsdecode(ruta) for ruta in grupo.split(b"\n")) for grupo in salida.strip(b"\n").split(b"\n\n")
-            if grupo}
+def grupos_de_jdupes(carpeta, tiempo_real):
+    with tempfile.TemporaryFile() as salida:
+        medir(["jdupes", "-r", "-q", "-H", carpeta], tiempo_real, salida)
+        salida.seek(0)
+        grupos = salida.read().strip(b"\n").split(b"\n\n")
+    return {frozenset(os.fsdecode(ruta) for ruta in grupo.split(b"\n")) for grupo in grupos if grupo}
 
 
-def comparar_grupos(bin_, carpeta, grupos):
+def comparar_grupos(bin_, carpeta, grupos, tiempo_real):
     """Also warms the caches up."""
-    subprocess.run([f"{bin_}/ovanta-banco", "dups", carpeta, "--out", grupos], stdout=subprocess.DEVNULL, check=True)
+    medir([f"{bin_}/ovanta-banco", "dups", carpeta, "--out", grupos], tiempo_real)
     if not shutil.which("jdupes"):
         return
-    nuestros, suyos = grupos_de_ovanta(grupos), grupos_de_jdupes(carpeta)
-    print(f"groups: {len(nuestros)}, of jdupes {len(suyos)}, in only one of both {len(nuestros ^ suyos)}")
+    nuestros, suyos = grupos_de_ovanta(grupos), grupos_de_jdupes(carpeta, tiempo_real)
+    print(f"groups: {len(nuestros)}, of jdupes {len(suyos)}, in only one of both {len(nuestros ^ suyos)}", flush=True)
 
 
 def main():
@@ -127,10 +131,9 @@ def main():
                             help="each program before all others of a machine that has more to do")
     pedido = argumentos.parse_args()
     carpeta = os.path.realpath(pedido.carpeta)
-    resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
     frias = pedido.frias if os.access(VACIAR, os.W_OK) else 0
     with tempfile.NamedTemporaryFile(prefix="ovanta-grupos.") as grupos:
-        comparar_grupos(pedido.bin, carpeta, grupos.name)
+        comparar_grupos(pedido.bin, carpeta, grupos.name, pedido.tiempo_real)
         duplicados, recorrido = ordenes(pedido.bin, carpeta, grupos.name)
         imprimir("search, warm", rondas(duplicados, pedido.rondas, pedido.tiempo_real, False))
         imprimir("walk, warm", rondas(recorrido, 5 * pedido.rondas, pedido.tiempo_real, False))

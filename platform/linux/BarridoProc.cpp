@@ -8,6 +8,7 @@
 #include <array>
 #include <fcntl.h>
 #include <unistd.h>
+#include <utility>
 
 namespace ovanta {
 
@@ -123,6 +124,13 @@ bool BarridoProc::medir(Conocido &conocido, bool reciente)
 {
     const int proc = m_proc.numero();
     const std::int32_t pid = conocido.proceso.pid;
+    const auto antes = std::exchange(conocido.reloj, m_relojes ? relojDeProceso(pid) : std::nullopt);
+    if (!reciente && !m_hayIntercambio && conocido.reloj && conocido.reloj == antes) {
+        // Who has not run has neither taken nor given back private memory, and without swap nobody else takes
+        // it away. The clock costs a tenth of what "statm" does.
+        conocido.vmSwap = 0;
+        return true;
+    }
     std::array<char, lugarDeStatm> lugar;
     const auto statm = interpretarLineaStatm(leerDeProceso(proc, pid, "statm", lugar)).value_or(LineaStatm{});
     if (!reciente && statm.codigo != conocido.statm.codigo) return false;
@@ -137,9 +145,7 @@ bool BarridoProc::medir(Conocido &conocido, bool reciente)
 
 std::uint64_t BarridoProc::tiempo(const Conocido &conocido) const
 {
-    const std::optional<std::uint64_t> nanos =
-        m_relojes ? relojDeProceso(conocido.proceso.pid) : std::nullopt;
-    return nanos.value_or(multiplicarConTope(conocido.ticks, m_nanosPorTick));
+    return conocido.reloj.value_or(multiplicarConTope(conocido.ticks, m_nanosPorTick));
 }
 
 } // namespace ovanta

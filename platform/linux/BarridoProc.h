@@ -6,6 +6,7 @@
 #include "platform/linux/ListaDePids.h"
 #include "platform/linux/ProcesoVisto.h"
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -35,10 +36,11 @@ private:
         EntradaDePid entrada;
         ProcesoVisto proceso; ///< without what each sweep measures
         bool delNucleo = false;
-        bool confirmado = false;  ///< seen twice: no longer between its birth and its program
-        LineaStatm statm;         ///< when `vmSwap` was read
-        std::uint64_t vmSwap = 0; ///< bytes
-        std::uint64_t ticks = 0;  ///< processor time when "stat" was read
+        bool confirmado = false;            ///< seen twice: no longer between its birth and its program
+        LineaStatm statm;                   ///< when `vmSwap` was read
+        std::uint64_t vmSwap = 0;           ///< bytes
+        std::optional<std::uint64_t> reloj; ///< processor time in nanoseconds right before `statm` was read
+        std::uint64_t ticks = 0;            ///< processor time when "stat" was read
     };
 
     bool abrir();

@@ -135,6 +135,24 @@ TEST(BarridoVivo, processorTimeGrowsAndNeverGoesBack)
         hasta([&] { return buscar(barrido.barrer(), guion.pid())->tiempoCPU > primero + 100'000'000; }));
 }
 
+TEST(BarridoVivo, noticesThatAProcessThatRestedTakesMemory)
+{
+    Guion guion("read seguir; v=$(head -c 8000000 /dev/zero | tr '\\0' x); read fin");
+    ASSERT_TRUE(guion.espera("sh"));
+    BarridoProc barrido;
+    std::uint64_t antes = 0;
+    for (int i = 0; i < 5; ++i) {
+        const auto visto = buscar(barrido.barrer(), guion.pid());
+        ASSERT_TRUE(visto);
+        antes = visto->huella;
+    }
+    guion.seguir();
+    EXPECT_TRUE(hasta([&] {
+        const auto visto = buscar(barrido.barrer(), guion.pid());
+        return visto && visto->huella > antes + 4'000'000;
+    }));
+}
+
 TEST(BarridoVivo, noticesThatAProcessRunsAnotherProgram)
 {
     Guion guion{"read x; exec sleep 60"};
