@@ -12,7 +12,9 @@ int bancoDups(int argc, char **argv);
 int bancoWalk(int argc, char **argv);
 int bancoProc(int argc, char **argv);
 int bancoTicks(int argc, char **argv);
+int bancoPlist(int argc, char **argv);
 int bancoXpc(int argc, char **argv);
 int bancoPuertos(int argc, char **argv);
+int bancoLectura(int argc, char **argv);
 
 } // namespace ovanta

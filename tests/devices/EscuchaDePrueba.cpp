@@ -1,5 +1,6 @@
 #include "tests/devices/EscuchaDePrueba.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <netinet/in.h>
 #include <sys/socket.h>
@@ -60,6 +61,13 @@ std::string EscuchaDePrueba::leer(int conexion, std::size_t cuantos) const
     std::string bytes(cuantos, '\0');
     exigir(::recv(conexion, bytes.data(), cuantos, MSG_WAITALL) == static_cast<ssize_t>(cuantos));
     return bytes;
+}
+
+std::string EscuchaDePrueba::leerAlgo(int conexion) const
+{
+    char lugar[4096];
+    const auto cuantos = ::recv(conexion, lugar, sizeof lugar, 0);
+    return {lugar, static_cast<std::size_t>(std::max(cuantos, ssize_t{0}))};
 }
 
 void EscuchaDePrueba::escribir(int conexion, std::string_view bytes) const
