@@ -15,5 +15,6 @@ int bancoTicks(int argc, char **argv);
 int bancoXpc(int argc, char **argv);
 int bancoPuertos(int argc, char **argv);
 int bancoPlist(int argc, char **argv);
+int bancoLectura(int argc, char **argv);
 
 } // namespace ovanta

@@ -17,8 +17,8 @@ constexpr Verbo verbos[] = {
     {"papelera", ovanta::bancoPapelera}, {"muestra", ovanta::bancoMuestra},
     {"dups", ovanta::bancoDups},         {"walk", ovanta::bancoWalk},
     {"proc", ovanta::bancoProc},         {"ticks", ovanta::bancoTicks},
-    {"xpc", ovanta::bancoXpc},           {"puertos", ovanta::bancoPuertos},
-    {"plist", ovanta::bancoPlist},
+    {"plist", ovanta::bancoPlist},       {"xpc", ovanta::bancoXpc},
+    {"puertos", ovanta::bancoPuertos},   {"lectura", ovanta::bancoLectura},
 };
 
 int explicarUso()

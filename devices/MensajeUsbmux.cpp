@@ -1,5 +1,6 @@
 #include "devices/MensajeUsbmux.h"
 
+#include "core/LittleEndian.h"
 #include "core/plist/EscribirPlist.h"
 #include "core/plist/LeerPlist.h"
 
@@ -13,12 +14,6 @@ namespace {
 constexpr std::uint32_t version = 1;
 constexpr std::uint32_t tipoPlist = 8;
 constexpr std::uint32_t etiqueta = 1;
-
-void anadir(std::string &bytes, std::uint32_t numero)
-{
-    for (int i = 0; i < 4; ++i)
-        bytes.push_back(static_cast<char>(numero >> (8 * i) & 0xFF));
-}
 
 /// Reads a property list that must be a dictionary; `siNo` is the error where it is another thing.
 std::expected<DiccionarioPlist, ErrorIOS> leerDiccionario(std::string_view plist, const ErrorIOS &siNo)
@@ -49,18 +44,13 @@ std::expected<std::string, ErrorIOS> mensaje(DiccionarioPlist peticion)
     peticion.poner("ProgName", "Ovanta");
     const auto plist = escribirPlistXml(std::move(peticion));
     if (!plist) return std::unexpected(ErrorIOS::otro(plist.error().descripcion()));
-    std::string bytes;
-    for (const std::uint32_t palabra :
-         {static_cast<std::uint32_t>(bytesDeCabecera + plist->size()), version, tipoPlist, etiqueta})
-        anadir(bytes, palabra);
-    return bytes + *plist;
+    return aLittleEndian(bytesDeCabecera + plist->size(), 4) + aLittleEndian(version, 4) +
+           aLittleEndian(tipoPlist, 4) + aLittleEndian(etiqueta, 4) + *plist;
 }
 
 std::expected<std::size_t, ErrorIOS> bytesQueSiguen(std::string_view cabecera)
 {
-    std::uint32_t largo = 0;
-    for (std::size_t i = 4; i-- > 0;)
-        largo = largo << 8 | static_cast<unsigned char>(cabecera[i]);
+    const std::uint64_t largo = leerLittleEndian(cabecera.substr(0, 4));
     if (largo < bytesDeCabecera || largo > maximoRespuesta) return std::unexpected(ilegible());
     return largo - bytesDeCabecera;
 }

@@ -1,5 +1,6 @@
 #include "devices/XPC.h"
 
+#include "core/LittleEndian.h"
 #include "core/Utf8.h"
 
 #include <bit>
@@ -33,17 +34,7 @@ template <typename Entero>
 std::optional<Entero> leerEntero(std::string_view bytes, std::size_t posicion)
 {
     if (posicion > bytes.size() || bytes.size() - posicion < sizeof(Entero)) return std::nullopt;
-    Entero leido = 0;
-    for (std::size_t i = 0; i < sizeof(Entero); ++i)
-        leido |= static_cast<Entero>(static_cast<unsigned char>(bytes[posicion + i])) << (8 * i);
-    return leido;
-}
-
-template <typename Entero>
-void anadirEntero(std::string &bytes, Entero numero)
-{
-    for (std::size_t i = 0; i < sizeof(Entero); ++i)
-        bytes.push_back(static_cast<char>(numero >> (8 * i) & 0xFF));
+    return static_cast<Entero>(leerLittleEndian(bytes.substr(posicion, sizeof(Entero))));
 }
 
 class Decodificador
@@ -188,18 +179,13 @@ private:
 std::string envoltura(std::uint32_t flags, bool cargaVacia)
 {
     std::string cuerpo;
-    if (cargaVacia) {
-        const std::uint32_t largo = 4, entradas = 0;
-        for (const std::uint32_t palabra :
-             {magiaDeCuerpo, versionDeCuerpo, std::uint32_t{diccionario}, largo, entradas})
-            anadirEntero(cuerpo, palabra);
-    }
-    std::string bytes;
-    anadirEntero(bytes, magiaDeEnvoltura);
-    anadirEntero(bytes, flags);
-    anadirEntero(bytes, std::uint64_t{cuerpo.size()});
-    anadirEntero(bytes, std::uint64_t{0}); // message id
-    return bytes + cuerpo;
+    if (cargaVacia)
+        for (const std::uint32_t palabra : {magiaDeCuerpo, versionDeCuerpo, std::uint32_t{diccionario},
+                                            std::uint32_t{4}, std::uint32_t{0}}) // length and entries
+            cuerpo += aLittleEndian(palabra, 4);
+    const std::uint64_t mensaje = 0;
+    return aLittleEndian(magiaDeEnvoltura, 4) + aLittleEndian(flags, 4) + aLittleEndian(cuerpo.size(), 8) +
+           aLittleEndian(mensaje, 8) + cuerpo;
 }
 
 std::optional<std::uint32_t> u32(std::string_view bytes, std::size_t posicion)
