@@ -12,5 +12,6 @@ int bancoDups(int argc, char **argv);
 int bancoWalk(int argc, char **argv);
 int bancoProc(int argc, char **argv);
 int bancoTicks(int argc, char **argv);
+int bancoPlist(int argc, char **argv);
 
 } // namespace ovanta

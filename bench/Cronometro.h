@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstddef>
+#include <ctime>
 #include <utility>
 #include <vector>
 
@@ -16,6 +17,14 @@ double microsegundosPorVez(int veces, Accion accion)
     for (int i = 0; i < veces; ++i)
         accion();
     return std::chrono::duration<double, std::micro>(Reloj::now() - desde).count() / veces;
+}
+
+/// Processor time that this thread has had so far: what others run meanwhile does not count.
+inline double procesadorUs()
+{
+    timespec tiempo;
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &tiempo);
+    return static_cast<double>(tiempo.tv_sec) * 1e6 + static_cast<double>(tiempo.tv_nsec) / 1e3;
 }
 
 inline double mediana(std::vector<double> valores)

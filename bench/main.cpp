@@ -17,6 +17,7 @@ constexpr Verbo verbos[] = {
     {"papelera", ovanta::bancoPapelera}, {"muestra", ovanta::bancoMuestra},
     {"dups", ovanta::bancoDups},         {"walk", ovanta::bancoWalk},
     {"proc", ovanta::bancoProc},         {"ticks", ovanta::bancoTicks},
+    {"plist", ovanta::bancoPlist},
 };
 
 int explicarUso()

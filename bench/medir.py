@@ -5,9 +5,11 @@ name, ours, reference, ratio.
 Usage: medir.py BIN_FOLDER [--segundos N] [--solo NAME,...]
 """
 import argparse
+import datetime
 import fcntl
 import json
 import os
+import plistlib
 import pty
 import shutil
 import signal
@@ -226,6 +228,29 @@ def medir_procesos(_, binarios):
             linea(titulo, *frente_a_monitor(binarios, orden, periodo), "µs")
 
 
+def arbol_plist(entradas):
+    """What a device tells about its battery, many times over."""
+    entrada = {"Serial": "F8Y7431000FKX", "CycleCount": 127, "Voltage": 4123, "IsCharging": False, "Temperature": 2980.5,
+               "BatteryData": {"Cells": [4123, 4124], "Raw": bytes(range(64)), "Flags": "«no» & <sí>"},
+               "Updated": datetime.datetime(2026, 11, 21, 5, 18, 36)}
+    return {f"Battery{i}": {**entrada, "Capacity": 3000 + i, "Name": f"iPhone de Ana {i}"} for i in range(entradas)}
+
+
+def medir_plist(_, binarios):
+    referencia = binarios / "referencia_plist"
+    for formato in (plistlib.FMT_XML, plistlib.FMT_BINARY):
+        with tempfile.NamedTemporaryFile() as archivo:
+            plistlib.dump(arbol_plist(5000), archivo, fmt=formato)
+            archivo.flush()
+            nuestro = banco(binarios, "plist", archivo.name)["mb_s"]
+            titulo = "leer una lista de propiedades, " + formato.name
+            if not referencia.exists():
+                print(f"{titulo:44} {nuestro:12.3f}  MB/s (libplist no está instalado)")
+                continue
+            salida = subprocess.run([str(referencia), archivo.name], check=True, capture_output=True, text=True)
+            linea(titulo, nuestro, json.loads(salida.stdout)["mb_s"], "MB/s")
+
+
 def main():
     argumentos = argparse.ArgumentParser()
     argumentos.add_argument("binarios", type=Path)
@@ -240,6 +265,7 @@ def main():
         "seguridad": lambda e: medir_seguridad(e, binarios),
         "papelera": lambda e: medir_papelera(e, binarios),
         "procesos": lambda e: medir_procesos(e, binarios),
+        "plist": lambda e: medir_plist(e, binarios),
     }
     elegidas = [m for m in opciones.solo.split(",") if m] or list(medidas)
     print(f"{'':44} {'Ovanta':>12} {'referencia':>12} {'razón':>8}")

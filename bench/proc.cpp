@@ -4,21 +4,9 @@
 
 #include <cstdio>
 #include <cstdlib>
-#include <ctime>
 #include <thread>
 
 namespace ovanta {
-
-namespace {
-
-double procesadorUs()
-{
-    timespec tiempo;
-    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &tiempo);
-    return static_cast<double>(tiempo.tv_sec) * 1e6 + static_cast<double>(tiempo.tv_nsec) / 1e3;
-}
-
-} // namespace
 
 /// `proc [rounds [pause]]`: one sweep over the processes of this machine, the median of the rounds after one
 /// that warms up, each after a pause of so many milliseconds; by the clock and by the processor time it took

@@ -1,5 +1,6 @@
 #include "devices/ConexionIOS.h"
 
+#include "core/BigEndian.h"
 #include "core/plist/EscribirPlist.h"
 #include "core/plist/LeerPlist.h"
 #include "devices/CanalTLS.h"
@@ -39,22 +40,6 @@ ErrorIOS falloAlAbrir(Conexiones::Fallo fallo, const std::string &sinRespuesta)
 }
 
 constexpr std::size_t anchoDeLongitud = 4;
-
-std::string longitud(std::size_t bytes)
-{
-    std::string texto;
-    for (const int salto : {24, 16, 8, 0})
-        texto += static_cast<char>(bytes >> salto & 0xFF);
-    return texto;
-}
-
-std::uint32_t longitudDe(std::string_view bytes)
-{
-    std::uint32_t numero = 0;
-    for (const char byte : bytes)
-        numero = numero << 8 | static_cast<std::uint8_t>(byte);
-    return numero;
-}
 
 /// Fills `cuantos` bytes with what `leerAlgo` gives piece by piece.
 template <typename LeerAlgo>
@@ -136,14 +121,14 @@ ConexionIOS::Resultado<void> ConexionIOS::enviarPlist(const DiccionarioPlist &me
 {
     const auto cuerpo = escribirPlistXml(mensaje);
     if (!cuerpo) return std::unexpected(ErrorIOS::otro(cuerpo.error().descripcion()));
-    return escribir(longitud(cuerpo->size()) + *cuerpo);
+    return escribir(aBigEndian(cuerpo->size(), anchoDeLongitud) + *cuerpo);
 }
 
 ConexionIOS::Resultado<DiccionarioPlist> ConexionIOS::recibirPlist()
 {
     const auto cabecera = leer(anchoDeLongitud);
     if (!cabecera) return std::unexpected(cabecera.error());
-    const auto largo = longitudDe(*cabecera);
+    const auto largo = leerBigEndian(*cabecera);
     if (largo == 0 || largo > maximoPlist)
         return std::unexpected(ErrorIOS::protocolo("respuesta con longitud inválida"));
     const auto cuerpo = leer(largo);

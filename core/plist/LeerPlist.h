@@ -14,7 +14,7 @@ namespace ovanta {
 struct LimitesPlist
 {
     int profundidad = 64;                              ///< containers inside each other
-    std::size_t objetos = 1'000'000;                   ///< values and keys, a shared one each time it is used
+    std::size_t objetos = 500'000;                     ///< values and keys, a shared one each time it is used
     std::size_t bytes = std::size_t{64} * 1024 * 1024; ///< of texts, keys and data, counted likewise
 };
 

@@ -1,3 +1,4 @@
+#include "core/BigEndian.h"
 #include "core/Utf8.h"
 #include "core/plist/PresupuestoPlist.h"
 
@@ -17,14 +18,6 @@ constexpr std::size_t tamanoCola = 32;
 /// The first moment of 2001 in UTC, from which dates count their seconds.
 constexpr double origenDeFechas = 978'307'200;
 
-std::uint64_t numeroDe(std::string_view bytes)
-{
-    std::uint64_t numero = 0;
-    for (const char byte : bytes)
-        numero = numero << 8 | static_cast<std::uint8_t>(byte);
-    return numero;
-}
-
 bool esAlta(std::uint32_t unidad)
 {
     return (unidad & 0xFC00) == 0xD800;
@@ -41,7 +34,8 @@ std::string deUtf16(std::string_view bytes)
     std::string texto;
     texto.reserve(bytes.size() / 2 * 3);
     const auto unidad = [bytes](std::size_t lugar) {
-        return lugar + 1 < bytes.size() ? static_cast<std::uint32_t>(numeroDe(bytes.substr(lugar, 2))) : 0;
+        return lugar + 1 < bytes.size() ? static_cast<std::uint32_t>(leerBigEndian(bytes.substr(lugar, 2)))
+                                        : 0;
     };
     for (std::size_t i = 0; i < bytes.size(); i += 2) {
         const auto primera = unidad(i), segunda = unidad(i + 2);
@@ -113,9 +107,9 @@ LectorBinario::LectorBinario(std::string_view bytes, PresupuestoPlist &presupues
     const auto cola = bytes.substr(bytes.size() - tamanoCola);
     m_anchoDeSalto = static_cast<std::uint8_t>(cola[6]);
     m_anchoDeReferencia = static_cast<std::uint8_t>(cola[7]);
-    m_cuantos = numeroDe(cola.substr(8, 8));
-    m_raiz = numeroDe(cola.substr(16, 8));
-    const auto tabla = numeroDe(cola.substr(24, 8));
+    m_cuantos = leerBigEndian(cola.substr(8, 8));
+    m_raiz = leerBigEndian(cola.substr(16, 8));
+    const auto tabla = leerBigEndian(cola.substr(24, 8));
     const auto fin = bytes.size() - tamanoCola;
     const auto anchoValido = [](std::size_t ancho) { return ancho >= 1 && ancho <= 8; };
     if (!anchoValido(m_anchoDeSalto) || !anchoValido(m_anchoDeReferencia) || tabla < tamanoCabecera ||
@@ -134,7 +128,7 @@ std::string_view LectorBinario::tramo(std::size_t lugar, std::uint64_t cuantos) 
 LectorBinario::Cuerpo LectorBinario::abrir(std::uint64_t referencia) const
 {
     if (referencia >= m_cuantos) rechazarPlist("referencia a un valor que no existe");
-    const auto lugar = numeroDe(m_tabla.substr(referencia * m_anchoDeSalto, m_anchoDeSalto));
+    const auto lugar = leerBigEndian(m_tabla.substr(referencia * m_anchoDeSalto, m_anchoDeSalto));
     if (lugar < tamanoCabecera || lugar >= m_finDeObjetos) rechazarPlist("valor fuera de sitio");
     const auto marca = static_cast<std::uint8_t>(m_bytes[lugar]);
     return {marca / 16U, marca % 16U, lugar + 1};
@@ -147,7 +141,7 @@ std::uint64_t LectorBinario::cuenta(Cuerpo &cuerpo) const
     const auto marca = static_cast<std::uint8_t>(tramo(cuerpo.lugar, 1).front());
     if (marca / 16 != 1 || marca % 16 > 3) rechazarPlist("longitud ilegible");
     const std::size_t ancho = std::size_t{1} << marca % 16;
-    const auto numero = numeroDe(tramo(cuerpo.lugar + 1, ancho));
+    const auto numero = leerBigEndian(tramo(cuerpo.lugar + 1, ancho));
     cuerpo.lugar += 1 + ancho;
     return numero;
 }
@@ -161,7 +155,7 @@ std::string_view LectorBinario::contenido(Cuerpo cuerpo, std::size_t porUnidad) 
 
 std::uint64_t LectorBinario::referencia(std::string_view referencias, std::size_t cual) const
 {
-    return numeroDe(referencias.substr(cual * m_anchoDeReferencia, m_anchoDeReferencia));
+    return leerBigEndian(referencias.substr(cual * m_anchoDeReferencia, m_anchoDeReferencia));
 }
 
 ValorPlist LectorBinario::leerObjeto(std::uint64_t referencia)
@@ -213,9 +207,9 @@ ValorPlist LectorBinario::leerEntero(Cuerpo cuerpo) const
 {
     if (cuerpo.nibble > 4) rechazarPlist("número demasiado ancho");
     const auto bytes = tramo(cuerpo.lugar, std::uint64_t{1} << cuerpo.nibble);
-    if (cuerpo.nibble < 3) return numeroDe(bytes);
-    if (cuerpo.nibble == 3) return static_cast<std::int64_t>(numeroDe(bytes));
-    const auto alto = numeroDe(bytes.substr(0, 8)), bajo = numeroDe(bytes.substr(8));
+    if (cuerpo.nibble < 3) return leerBigEndian(bytes);
+    if (cuerpo.nibble == 3) return static_cast<std::int64_t>(leerBigEndian(bytes));
+    const auto alto = leerBigEndian(bytes.substr(0, 8)), bajo = leerBigEndian(bytes.substr(8));
     if (alto == 0) return bajo;
     if (alto != ~std::uint64_t{0} || bajo >> 63 == 0) rechazarPlist("número demasiado grande");
     return static_cast<std::int64_t>(bajo);
@@ -224,15 +218,15 @@ ValorPlist LectorBinario::leerEntero(Cuerpo cuerpo) const
 double LectorBinario::leerReal(Cuerpo cuerpo) const
 {
     if (cuerpo.nibble == 2)
-        return std::bit_cast<float>(static_cast<std::uint32_t>(numeroDe(tramo(cuerpo.lugar, 4))));
+        return std::bit_cast<float>(static_cast<std::uint32_t>(leerBigEndian(tramo(cuerpo.lugar, 4))));
     if (cuerpo.nibble != 3) rechazarPlist("número ilegible");
-    return std::bit_cast<double>(numeroDe(tramo(cuerpo.lugar, 8)));
+    return std::bit_cast<double>(leerBigEndian(tramo(cuerpo.lugar, 8)));
 }
 
 ValorPlist LectorBinario::leerUid(Cuerpo cuerpo) const
 {
     if (cuerpo.nibble > 7) rechazarPlist("número demasiado ancho");
-    return UidPlist{numeroDe(tramo(cuerpo.lugar, cuerpo.nibble + 1))};
+    return UidPlist{leerBigEndian(tramo(cuerpo.lugar, cuerpo.nibble + 1))};
 }
 
 std::string LectorBinario::leerTexto(Cuerpo cuerpo)

@@ -1,18 +1,12 @@
 #pragma once
 
+#include "core/BigEndian.h"
+
 #include <cstdint>
 #include <string>
 #include <vector>
 
 namespace ovanta::pruebas {
-
-inline std::string grande(std::uint64_t numero, std::size_t ancho)
-{
-    std::string bytes(ancho, '\0');
-    for (auto i = ancho; i > 0; --i, numero >>= 8)
-        bytes[i - 1] = static_cast<char>(numero);
-    return bytes;
-}
 
 inline std::string enXml(const std::string &valor)
 {
@@ -34,14 +28,14 @@ struct PlistAMano
     {
         std::string bytes;
         for (const auto numero : numeros)
-            bytes += grande(numero, anchoDeReferencia);
+            bytes += aBigEndian(numero, anchoDeReferencia);
         return bytes;
     }
     /// The marker of a container or text of up to 14 units, or of more.
     static std::string marca(unsigned tipo, std::uint64_t cuantos)
     {
         if (cuantos < 15) return {static_cast<char>(tipo << 4 | cuantos)};
-        return static_cast<char>(tipo << 4 | 15) + std::string{'\x13'} + grande(cuantos, 8);
+        return static_cast<char>(tipo << 4 | 15) + std::string{'\x13'} + aBigEndian(cuantos, 8);
     }
     std::string lista(const std::vector<std::uint64_t> &numeros) const
     {
@@ -52,13 +46,14 @@ struct PlistAMano
     {
         std::string todo = "bplist00", tabla;
         for (const auto &objeto : objetos) {
-            tabla += grande(todo.size(), anchoDeSalto);
+            tabla += aBigEndian(todo.size(), anchoDeSalto);
             todo += objeto;
         }
         const auto lugar = todo.size() + desvioDeTabla;
         todo += tabla + std::string(6, '\0') + static_cast<char>(anchoDeSalto) +
                 static_cast<char>(anchoDeReferencia);
-        return todo + grande(objetos.size() + objetosDeMas, 8) + grande(raiz, 8) + grande(lugar, 8);
+        return todo + aBigEndian(objetos.size() + objetosDeMas, 8) + aBigEndian(raiz, 8) +
+               aBigEndian(lugar, 8);
     }
 };
 

@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 using namespace ovanta;
-using pruebas::grande;
 using pruebas::PlistAMano;
 using namespace std::string_literals;
 
@@ -18,12 +17,12 @@ std::expected<ValorPlist, ErrorPlist> leer(const std::string &objeto)
 
 std::string real(double valor)
 {
-    return "\x23" + grande(std::bit_cast<std::uint64_t>(valor), 8);
+    return "\x23" + aBigEndian(std::bit_cast<std::uint64_t>(valor), 8);
 }
 
 std::string fecha(double valor)
 {
-    return "\x33" + grande(std::bit_cast<std::uint64_t>(valor), 8);
+    return "\x33" + aBigEndian(std::bit_cast<std::uint64_t>(valor), 8);
 }
 
 } // namespace
@@ -36,11 +35,11 @@ TEST(PlistBinaria, readsEachTypeAndTheEndsOfItsRange)
         {"\x10\xFF", 255},
         {"\x11\xFF\xFF", 65535},
         {"\x12\xFF\xFF\xFF\xFF", 4294967295},
-        {"\x13" + grande(~0ULL, 8), -1},
-        {"\x13" + grande(1ULL << 63, 8), std::numeric_limits<std::int64_t>::min()},
-        {"\x14" + grande(0, 8) + grande(~0ULL, 8), std::numeric_limits<std::uint64_t>::max()},
-        {"\x14" + grande(~0ULL, 8) + grande(1ULL << 63, 8), std::numeric_limits<std::int64_t>::min()},
-        {"\x22" + grande(std::bit_cast<std::uint32_t>(1.5F), 4), 1.5},
+        {"\x13" + aBigEndian(~0ULL, 8), -1},
+        {"\x13" + aBigEndian(1ULL << 63, 8), std::numeric_limits<std::int64_t>::min()},
+        {"\x14" + aBigEndian(0, 8) + aBigEndian(~0ULL, 8), std::numeric_limits<std::uint64_t>::max()},
+        {"\x14" + aBigEndian(~0ULL, 8) + aBigEndian(1ULL << 63, 8), std::numeric_limits<std::int64_t>::min()},
+        {"\x22" + aBigEndian(std::bit_cast<std::uint32_t>(1.5F), 4), 1.5},
         {real(-0.1), -0.1},
         {fecha(0), Fecha{std::chrono::seconds{978307200}}},
         {fecha(-63114076800.0), Fecha{std::chrono::seconds{978307200 - 63114076800}}},
@@ -54,7 +53,7 @@ TEST(PlistBinaria, readsEachTypeAndTheEndsOfItsRange)
         {"\x5F\x11\x01\x00"s + std::string(256, 'y'), std::string(256, 'y')},
         {"\x63\x00\xF1\xD8\x3D\xDE\x00"s, "ñ😀"},
         {"\x80\x07", UidPlist{7}},
-        {"\x87" + grande(~0ULL, 8), UidPlist{~0ULL}},
+        {"\x87" + aBigEndian(~0ULL, 8), UidPlist{~0ULL}},
         {"\xA0", ListaPlist{}},
         {"\xD0", DiccionarioPlist{}},
     };
@@ -81,7 +80,7 @@ TEST(PlistBinaria, refusesTypesThatNoPropertyListHas)
                                       "\x0F"s,
                                       "\x15"s + std::string(32, '\0'),
                                       "\x14\x01"s + std::string(15, '\0'),
-                                      "\x14"s + std::string(8, '\xFF') + grande(5, 8),
+                                      "\x14"s + std::string(8, '\xFF') + aBigEndian(5, 8),
                                       "\x21\x00\x00"s,
                                       "\x24"s + std::string(16, '\0'),
                                       "\x32\x00\x00\x00\x00"s,
@@ -158,7 +157,7 @@ TEST(PlistBinaria, anOffsetIntoTheHeaderOrTheTableIsRefused)
     const auto bytes = PlistAMano{.objetos = {"\x09"}}.bytes();
     for (const std::uint64_t salto : {0ULL, 7ULL, 9ULL, 10ULL, 1ULL << 40, ~0ULL}) {
         auto otra = bytes;
-        otra.replace(9, 8, grande(salto, 8));
+        otra.replace(9, 8, aBigEndian(salto, 8));
         EXPECT_FALSE(leerPlist(otra)) << salto;
     }
 }

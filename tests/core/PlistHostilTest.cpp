@@ -160,7 +160,7 @@ TEST(PlistHostil, anyChangeOfSingleBytesGivesAValueOrAnError)
                                "\x53"
                                "uno",
                                "\x63\x00\xF1\x00\xF1\x00\xF1"s,
-                               "\x13" + pruebas::grande(5, 8),
+                               "\x13" + aBigEndian(5, 8),
                                {}}};
     dic.objetos[0] = "\xD2" + dic.referencias({1, 2, 3, 4});
     dic.objetos[4] = dic.lista({1, 2, 3});

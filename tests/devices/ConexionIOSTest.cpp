@@ -8,7 +8,6 @@
 
 using namespace ovanta;
 using pruebas::CanalGuion;
-using pruebas::grande;
 using pruebas::Guion;
 using pruebas::plazoLargo;
 using pruebas::UnaConexion;
@@ -24,7 +23,7 @@ ConexionIOS sobre(Guion &guion)
 
 std::string marco(const std::string &cuerpo)
 {
-    return grande(cuerpo.size(), 4) + cuerpo;
+    return aBigEndian(cuerpo.size(), 4) + cuerpo;
 }
 
 std::string marco(const ValorPlist &valor)
@@ -62,9 +61,9 @@ std::string plistDe(std::size_t bytes)
 
 TEST(ConexionIOS, aFrameOfLengthZeroOr33554432IsRefusedAndOneOf33554431IsRead)
 {
-    EXPECT_EQ(alRecibirPlist(grande(0, 4)), "respuesta con longitud inválida");
-    EXPECT_EQ(alRecibirPlist(grande(33'554'432, 4)), "respuesta con longitud inválida");
-    EXPECT_EQ(alRecibirPlist(grande(0xFFFFFFFF, 4)), "respuesta con longitud inválida");
+    EXPECT_EQ(alRecibirPlist(aBigEndian(0, 4)), "respuesta con longitud inválida");
+    EXPECT_EQ(alRecibirPlist(aBigEndian(33'554'432, 4)), "respuesta con longitud inválida");
+    EXPECT_EQ(alRecibirPlist(aBigEndian(0xFFFFFFFF, 4)), "respuesta con longitud inválida");
     const auto cuerpo = plistDe(33'554'431);
     ASSERT_EQ(cuerpo.size(), 33'554'431U);
     EXPECT_EQ(alRecibirPlist(marco(cuerpo)), "nada");

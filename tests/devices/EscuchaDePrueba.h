@@ -22,6 +22,8 @@ public:
     /// The other end of the next connection; it stays open with this object, or until `cerrar`.
     int aceptar();
     std::string leer(int conexion, std::size_t cuantos) const;
+    /// What has come, at least one byte; nothing at the end.
+    std::string leerAlgo(int conexion) const;
     /// Whatever still goes.
     void escribir(int conexion, std::string_view bytes) const;
     void cerrar(int conexion);
