@@ -32,6 +32,8 @@ Item {
         ListaConLugar {
             visible: !estado.vacio
             filas: estado.filas
+            // A row kept for use again would show what it showed of another tab's list.
+            reuseItems: false
             Accessible.name: estado.pestanas[estado.pestana]
             Layout.fillWidth: true
             Layout.fillHeight: true

@@ -43,14 +43,13 @@ Rectangle {
                 color: Tema.colores.verde
                 Layout.fillWidth: true
             }
-            Item {
-                visible: !raiz.estado.moviendo
-                Layout.fillWidth: true
-            }
             Texto {
-                visible: raiz.seleccion !== "" && !raiz.estado.moviendo
+                visible: !raiz.estado.moviendo
                 text: raiz.seleccion
                 font.weight: Font.DemiBold
+                horizontalAlignment: Text.AlignRight
+                Accessible.ignored: text === ""
+                Layout.fillWidth: true
             }
             Boton {
                 variante: Boton.Primario

@@ -63,6 +63,33 @@ TEST_F(BigFilesView, theTabsArePressedOrWalkedWithTheArrows)
     EXPECT_TRUE(pestana(QStringLiteral("Archivos grandes (2)"))->hasActiveFocus());
 }
 
+TEST_F(BigFilesView, aTabShowsItsOwnRowsHoweverOftenItIsChosen)
+{
+    for (int i = 0; i < 33; ++i)
+        archivo("Factura " + std::to_string(i) + ".pdf",
+                std::string(1000 + static_cast<std::size_t>(i), 'x'));
+    pesadas = {{casa.en("a/node_modules"), 30}, {casa.en("b/target"), 20}, {casa.en("c/.venv"), 10}};
+    analizar();
+    abrir(Seccion::pesados);
+    for (int vez = 0; vez < 6; ++vez) {
+        // A window that becomes smaller leaves rows that the list keeps for use again.
+        for (const QSize medida : {QSize(1400, 900), QSize(900, 660)}) {
+            ventana()->resize(medida);
+            reposar();
+        }
+        pulsar(QAccessible::PageTab, QStringLiteral("Dependencias (3)"));
+        reposar();
+        for (const char *tipo : {"node_modules", "target", ".venv"})
+            EXPECT_TRUE(seVe(QString::fromUtf8(tipo))) << tipo << " " << vez;
+        for (int i = 0; i < 33; ++i)
+            EXPECT_FALSE(seVe(QStringLiteral("Factura %1.pdf").arg(i))) << i << " " << vez;
+        pulsar(QAccessible::PageTab, QStringLiteral("Archivos grandes (33)"));
+        reposar();
+        EXPECT_TRUE(seVe(QStringLiteral("Factura 32.pdf")));
+        EXPECT_FALSE(seVe(QStringLiteral("node_modules")));
+    }
+}
+
 TEST_F(BigFilesView, theFocusOfATabOutlastsAnAnalysis)
 {
     llenarYAbrir();

@@ -192,6 +192,26 @@ TEST_F(DuplicatesView, theListKeepsItsPlaceWhenAStagePublishes)
     EXPECT_EQ(lugar(), antes);
 }
 
+TEST_F(DuplicatesView, newGroupsShowTheirOwnRowsAfterTheWindowBecameSmaller)
+{
+    for (int i = 0; i < 20; ++i)
+        grupo("viejo " + std::to_string(i), 3, 1000 + static_cast<std::size_t>(i));
+    analizar();
+    abrir(Seccion::duplicados);
+    for (const QSize medida : {QSize(1400, 900), QSize(900, 660)}) {
+        ventana()->resize(medida);
+        reposar();
+    }
+    std::filesystem::remove_all(casa.en("Downloads"));
+    grupo("nuevo", 3, 500);
+    analizar();
+    reposar();
+    for (int i = 1; i <= 3; ++i)
+        EXPECT_TRUE(seVe(QStringLiteral("nuevo %1").arg(i)));
+    for (int i = 0; i < 20; ++i)
+        EXPECT_FALSE(seVe(QStringLiteral("viejo %1 1").arg(i)));
+}
+
 TEST_F(DuplicatesView, theListStaysWithinItsRowsWhenItShrinks)
 {
     for (int i = 0; i < 30; ++i)
