@@ -21,7 +21,7 @@ constexpr std::uint32_t largoPropiedad = 1024; ///< in words of four bytes
 constexpr std::uint32_t largoLista = 4096;
 constexpr std::uint32_t origenUsuario = 2; ///< "source indication" of a pager
 
-using FinDeEspera = std::chrono::steady_clock::time_point;
+using Plazo = std::chrono::steady_clock::time_point;
 
 struct Liberar
 {
@@ -34,7 +34,7 @@ using Respuesta = std::unique_ptr<T, Liberar>;
 /// The answer to a request, waited for until `plazo`; null on an error too. `agotada` is set when
 /// the time is up, and nothing is waited for after that.
 template <typename T>
-Respuesta<T> esperar(xcb_connection_t *conexion, unsigned int pedido, FinDeEspera plazo, bool &agotada)
+Respuesta<T> esperar(xcb_connection_t *conexion, unsigned int pedido, Plazo plazo, bool &agotada)
 {
     void *respuesta = nullptr;
     xcb_generic_error_t *error = nullptr;
@@ -73,7 +73,7 @@ constexpr std::array<std::string_view, ConexionX11::cuantosAtomos> nombresAtomos
 class Propiedades
 {
 public:
-    Propiedades(xcb_connection_t *conexion, FinDeEspera plazo, bool &agotada)
+    Propiedades(xcb_connection_t *conexion, Plazo plazo, bool &agotada)
         : m_conexion(conexion), m_plazo(plazo), m_agotada(agotada)
     {
     }
@@ -104,7 +104,7 @@ public:
 
 private:
     xcb_connection_t *m_conexion;
-    FinDeEspera m_plazo;
+    Plazo m_plazo;
     bool &m_agotada;
 };
 
@@ -170,7 +170,7 @@ ConexionX11::ConexionX11(const std::string &pantalla) : m_conexion(xcb_connect(p
                                      nombresAtomos[i].data())
                          .sequence;
     xcb_flush(m_conexion);
-    const FinDeEspera plazo = std::chrono::steady_clock::now() + espera;
+    const Plazo plazo = std::chrono::steady_clock::now() + espera;
     for (std::size_t i = 0; i < pedidos.size(); ++i)
         if (const auto respuesta = esperar<xcb_intern_atom_reply_t>(m_conexion, pedidos[i], plazo, m_agotada))
             m_atomos[i] = respuesta->atom;

@@ -11,7 +11,7 @@ namespace ovanta {
 
 namespace {
 
-using FinDeEspera = std::chrono::steady_clock::time_point;
+using Plazo = std::chrono::steady_clock::time_point;
 
 /// One way to ask.
 struct Peticion
@@ -104,7 +104,7 @@ public:
         return m_bus.interface()->isServiceRegistered(QLatin1String(nombre)).value();
     }
 
-    QDBusError pedir(const Peticion &peticion, FinDeEspera plazo) const
+    QDBusError pedir(const Peticion &peticion, Plazo plazo) const
     {
         auto mensaje =
             QDBusMessage::createMethodCall(QLatin1String(peticion.servicio), QLatin1String(peticion.ruta),
@@ -138,7 +138,7 @@ bool nadieLoOyo(const QDBusError &error)
 
 enum class Sesion { noHay, yaPedido, noSabe };
 
-Sesion pedirALaSesion(const Bus &bus, FinDeEspera plazo)
+Sesion pedirALaSesion(const Bus &bus, Plazo plazo)
 {
     auto resultado = Sesion::noHay;
     for (const Peticion &peticion : peticionesDeSesion()) {
@@ -169,7 +169,7 @@ ReinicioLinux ReinicioLinux::delEntorno()
 
 void ReinicioLinux::pedir()
 {
-    const FinDeEspera plazo = std::chrono::steady_clock::now() + m_limite;
+    const Plazo plazo = std::chrono::steady_clock::now() + m_limite;
     const Bus sesion{m_sesion};
     if (!sesion.hay()) return;
     // The system restarts without a question: where a session manager is there, it would lose work.
