@@ -23,7 +23,8 @@ TEST_F(UsbmuxFallosTest, aDeviceThatClosesAfterAnyByteEndsTheReadingOnceTheFigur
     const std::size_t total = conexiones.reglas.dados;
     const std::size_t sinDespedida =
         total - 4 - escribirPlistXml(*telefono.respuestas["StopSession"]).value().size();
-    for (std::size_t corte = 0; corte < total; ++corte) {
+    // Each reading decodes a key, so in the middle not every byte is tried, but each place in a word.
+    for (std::size_t corte = 0; corte < total; corte += corte < 300 || corte + 700 > total ? 1 : 7) {
         conexiones.reglas.quedan = corte;
         const auto leida = leer();
         EXPECT_EQ(leida.has_value(), corte >= sinDespedida) << corte;
