@@ -34,7 +34,8 @@ struct Mesa
     /// What the device saw, once it has seen so much: it writes that down at its own pace.
     std::vector<std::string> diario(std::size_t cuantas) const
     {
-        for (const Plazo plazo{std::chrono::seconds(20)}; telefono->diario().lineas().size() < cuantas && !plazo.vencido();)
+        for (const Plazo plazo{std::chrono::seconds(20)};
+             telefono->diario().lineas().size() < cuantas && !plazo.vencido();)
             std::this_thread::sleep_for(std::chrono::milliseconds(5));
         return telefono->diario().lineas();
     }
