@@ -4,19 +4,12 @@
 
 #include <cerrno>
 #include <climits>
-#include <fcntl.h>
 #include <string>
 #include <string_view>
 
 namespace ovanta {
 
 namespace {
-
-#ifdef O_SEARCH
-constexpr int soloPasar = O_SEARCH;
-#else
-constexpr int soloPasar = O_PATH;
-#endif
 
 /// The longest piece that ends before a slash and that the system takes at once.
 std::string_view primerTramo(std::string_view ruta)

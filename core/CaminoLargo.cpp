@@ -1,5 +1,6 @@
 #include "core/CaminoLargo.h"
 
+#include "core/AbrirCamino.h"
 #include "core/Descriptor.h"
 #include "core/Rutas.h"
 
@@ -16,13 +17,6 @@
 namespace ovanta {
 
 namespace {
-
-// A folder that may be searched but not read (0711) can still be walked through.
-#ifdef O_SEARCH
-constexpr int soloPasar = O_SEARCH;
-#else
-constexpr int soloPasar = O_PATH;
-#endif
 
 constexpr int maximoEnlaces = 40;
 

@@ -3,6 +3,7 @@
 #include "core/EntornoHerramienta.h"
 #include "core/GrupoProcesos.h"
 #include "core/HerramientasVivas.h"
+#include "core/Rutas.h"
 #include "core/Utf8.h"
 
 #include <algorithm>
@@ -129,11 +130,6 @@ Cronometro::duration duracion(double segundos)
     return std::chrono::duration_cast<Cronometro::duration>(std::chrono::duration<double>(segundos));
 }
 
-std::string nombreDe(const std::string &ruta)
-{
-    return ruta.substr(ruta.rfind('/') + 1);
-}
-
 std::string comoTexto(std::string bytes)
 {
     return esUtf8(bytes) ? std::move(bytes) : std::string();
@@ -164,7 +160,7 @@ std::string ejecutar(const std::string &binario, const std::vector<std::string> 
     Ejecucion ejecucion(binario, args);
     if (!ejecucion.esperarFin(duracion(segundos))) {
         detenerPorTiempo(ejecucion);
-        throw ShellError::agotado(nombreDe(binario), segundos);
+        throw ShellError::agotado(std::string(ultimoComponente(binario)), segundos);
     }
     ejecucion.esperarTuberias(esperaDeTuberias);
     const int codigo = ejecucion.recoger();

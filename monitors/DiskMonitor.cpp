@@ -12,9 +12,9 @@ namespace ovanta {
 
 namespace {
 
-constexpr std::chrono::minutes periodo{1};
+constexpr std::chrono::minutes periodoDisco{1};
 /// Nobody sees whether a figure is some seconds older: the machine may wake once for many timers.
-constexpr std::chrono::seconds tolerancia{5};
+constexpr std::chrono::seconds toleranciaDisco{5};
 
 constexpr std::string_view claveUmbralAviso = "umbralAviso";
 constexpr std::string_view claveUmbralCritico = "umbralCritico";
@@ -53,7 +53,7 @@ DiskMonitor::DiskMonitor(Plataforma &plataforma, QObject *parent)
     auto medirSiVive = [vivo] {
         if (vivo) vivo->medir();
     };
-    m_temporizador = m_plataforma.reloj().cada(periodo, tolerancia, medirSiVive);
+    m_temporizador = m_plataforma.reloj().cada(periodoDisco, toleranciaDisco, medirSiVive);
     m_plataforma.suspension().alDespertar(medirSiVive);
 }
 

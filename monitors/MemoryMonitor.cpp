@@ -13,8 +13,8 @@ namespace ovanta {
 
 namespace {
 
-constexpr std::chrono::seconds periodo{10};
-constexpr std::chrono::seconds tolerancia{2};
+constexpr std::chrono::seconds periodoMemoria{10};
+constexpr std::chrono::seconds toleranciaMemoria{2};
 
 /// Diacritics count, case does not; composed and decomposed forms of a letter are the same.
 bool contieneTexto(std::string_view nombre, std::string_view palabra)
@@ -30,7 +30,7 @@ MemoryMonitor::MemoryMonitor(Plataforma &plataforma, QObject *parent)
 {
     OVANTA_HILO_PRINCIPAL();
     medir();
-    m_temporizador = m_plataforma.reloj().cada(periodo, tolerancia, [this] { medir(); });
+    m_temporizador = m_plataforma.reloj().cada(periodoMemoria, toleranciaMemoria, [this] { medir(); });
 }
 
 MemoryMonitor::~MemoryMonitor()

@@ -62,7 +62,7 @@ std::optional<EsperaFallida> esperarDescriptor(int descriptor, short sucesos, mi
         const int listos = ::poll(&vigilado, 1, static_cast<int>(tramo.count()));
         if (listos > 0) return std::nullopt;
         if (listos < 0 && errno != EINTR) return EsperaFallida::sistema;
-        if (tramo == queda) return EsperaFallida::silencio;
+        if (listos == 0 && tramo == queda) return EsperaFallida::silencio;
     }
     return EsperaFallida::vencido;
 }

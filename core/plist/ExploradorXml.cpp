@@ -65,6 +65,25 @@ void anadirLineas(std::string &texto, std::string_view trozo)
     texto += trozo;
 }
 
+/// Adds what stands between two tags.
+void anadirTexto(std::string &texto, std::string_view trozo)
+{
+    if (!esUtf8(trozo)) rechazarPlist("texto ilegible");
+    for (auto lugar = trozo.find('&'); lugar != std::string_view::npos; lugar = trozo.find('&')) {
+        anadirLineas(texto, trozo.substr(0, lugar));
+        trozo.remove_prefix(lugar);
+        tomarReferencia(texto, trozo);
+    }
+    anadirLineas(texto, trozo);
+}
+
+/// Adds what stands in a section in which nothing has a meaning.
+void anadirLiteral(std::string &texto, std::string_view trozo)
+{
+    if (!esUtf8(trozo)) rechazarPlist("texto ilegible");
+    anadirLineas(texto, trozo);
+}
+
 bool igualSinCaja(std::string_view a, std::string_view b)
 {
     const auto minuscula = [](char letra) {
@@ -158,18 +177,6 @@ ExploradorXml::Etiqueta ExploradorXml::etiqueta()
     return leida;
 }
 
-void ExploradorXml::anadir(std::string &texto, std::string_view trozo) const
-{
-    const auto antes = texto.size();
-    for (auto lugar = trozo.find('&'); lugar != std::string_view::npos; lugar = trozo.find('&')) {
-        anadirLineas(texto, trozo.substr(0, lugar));
-        trozo.remove_prefix(lugar);
-        tomarReferencia(texto, trozo);
-    }
-    anadirLineas(texto, trozo);
-    if (!esUtf8(std::string_view{texto}.substr(antes))) rechazarPlist("texto ilegible");
-}
-
 std::string ExploradorXml::texto(const Etiqueta &etiqueta)
 {
     std::string texto;
@@ -177,15 +184,12 @@ std::string ExploradorXml::texto(const Etiqueta &etiqueta)
     while (true) {
         const auto fin = m_resto.find('<');
         if (fin == std::string_view::npos) rechazarPlist("documento cortado");
-        anadir(texto, m_resto.substr(0, fin));
+        anadirTexto(texto, m_resto.substr(0, fin));
         m_resto.remove_prefix(fin);
         if (saltarAdorno()) continue;
         if (!tomar("<![CDATA[")) break;
-        const auto seccion = m_resto;
+        anadirLiteral(texto, m_resto.substr(0, m_resto.find("]]>")));
         saltarHasta("]]>");
-        const auto antes = texto.size();
-        anadirLineas(texto, seccion.substr(0, seccion.size() - m_resto.size() - 3));
-        if (!esUtf8(std::string_view{texto}.substr(antes))) rechazarPlist("texto ilegible");
     }
     if (this->etiqueta() != Etiqueta{etiqueta.nombre, Forma::cierre}) rechazarPlist("etiqueta sin cerrar");
     return texto;

@@ -38,7 +38,6 @@ private:
     void saltarHasta(std::string_view final);
     void comprobarDeclaracion();
     bool tomar(std::string_view comienzo);
-    void anadir(std::string &texto, std::string_view trozo) const;
 
     std::string_view m_resto;
 };

@@ -21,7 +21,7 @@ bool esLiteral(unsigned char c)
 }
 
 /// The number that the whole of `digitos` is; nothing for anything else, a sign included.
-std::optional<int> numero(std::string_view digitos, int base = 10)
+std::optional<int> numeroEntero(std::string_view digitos, int base = 10)
 {
     int valor = 0;
     if (digitos.empty() || digitos.front() == '-') return std::nullopt;
@@ -60,10 +60,10 @@ std::optional<std::tm> camposDeFecha(std::string_view texto)
     if (texto.size() != 19) return std::nullopt;
     if (texto[4] != '-' || texto[7] != '-' || texto[10] != 'T' || texto[13] != ':' || texto[16] != ':')
         return std::nullopt;
-    const auto ano = numero(texto.substr(0, 4)), mes = numero(texto.substr(5, 2)),
-               dia = numero(texto.substr(8, 2));
-    const auto hora = numero(texto.substr(11, 2)), minuto = numero(texto.substr(14, 2)),
-               segundo = numero(texto.substr(17, 2));
+    const auto ano = numeroEntero(texto.substr(0, 4)), mes = numeroEntero(texto.substr(5, 2)),
+               dia = numeroEntero(texto.substr(8, 2));
+    const auto hora = numeroEntero(texto.substr(11, 2)), minuto = numeroEntero(texto.substr(14, 2)),
+               segundo = numeroEntero(texto.substr(17, 2));
     if (!ano || !mes || !dia || !hora || !minuto || !segundo) return std::nullopt;
     const std::chrono::year_month_day calendario{std::chrono::year{*ano},
                                                  std::chrono::month{static_cast<unsigned>(*mes)},
@@ -117,7 +117,7 @@ std::optional<std::string> decodificarPorcentaje(std::string_view texto)
             continue;
         }
         const std::string_view cifras = texto.substr(i + 1, 2);
-        const auto byte = cifras.size() == 2 ? numero(cifras, 16) : std::nullopt;
+        const auto byte = cifras.size() == 2 ? numeroEntero(cifras, 16) : std::nullopt;
         if (!byte || *byte == 0) return std::nullopt;
         bytes += static_cast<char>(*byte);
         i += 2;

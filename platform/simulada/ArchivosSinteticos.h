@@ -8,6 +8,8 @@
 
 namespace ovanta {
 
+inline constexpr std::uint64_t kib = 1024;
+
 // Making the files of a synthetic home. Missing folders on the way appear. All of these throw
 // std::system_error.
 

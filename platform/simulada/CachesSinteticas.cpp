@@ -10,8 +10,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::uint64_t kib = 1024;
-
 /// A few places are big and most are small, none quite like its neighbours.
 std::uint64_t tamanoDe(std::size_t numero)
 {

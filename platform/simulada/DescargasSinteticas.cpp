@@ -13,8 +13,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::uint64_t kib = 1024;
-
 /// A file below "Downloads" whose content is that of all files with the same size, seed and end.
 struct Descarga
 {

@@ -6,8 +6,6 @@ using namespace std::string_literals;
 
 namespace {
 
-const std::string NO_EXISTE = "error " + std::to_string(ENOENT);
-
 const std::string DEL_SISTEMA = "rechaza No se desinstalan aplicaciones del sistema.";
 const std::string SOLO_TERCEROS =
     "rechaza Solo se admiten apps de terceros directamente dentro de /Applications o ~/Applications.";

@@ -2,11 +2,15 @@
 
 #include "tests/HogarTemporal.h"
 
+#include <cerrno>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <map>
 
 namespace ovanta::pruebas {
+
+/// What `respuesta` tells of a path that is not there.
+inline const std::string NO_EXISTE = "error " + std::to_string(ENOENT);
 
 /// A temporary home with its path gate, settings and application bundles.
 class BancoSeguridad : public testing::Test

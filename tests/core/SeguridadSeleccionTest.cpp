@@ -13,7 +13,6 @@ const std::string SISTEMA =
     "rechaza Esta selección incluye una carpeta del sistema o de aplicaciones protegida.";
 const std::string PROTEGIDA = "rechaza La selección contiene una ubicación que protegiste.";
 const std::string APUNTA_FUERA = "rechaza El elemento apunta fuera de la carpeta elegida.";
-const std::string NO_EXISTE = "error " + std::to_string(ENOENT);
 
 class SeguridadSeleccion : public BancoSeguridad
 {
@@ -33,7 +32,8 @@ protected:
     }
 };
 
-const std::string ELIGE = "rechaza Elige una carpeta concreta, no la raíz del disco ni tu carpeta de inicio.";
+const std::string ELIGE_CARPETA =
+    "rechaza Elige una carpeta concreta, no la raíz del disco ni tu carpeta de inicio.";
 const std::string NO_SE_ANALIZA = "rechaza No se analiza una carpeta del sistema protegida.";
 const std::string CONTIENE = "rechaza Esta carpeta contiene ubicaciones protegidas.";
 
@@ -162,8 +162,8 @@ TEST_F(SeguridadRaiz, theFirstRuleBrokenGivesTheMessage)
     HogarTemporal::carpeta(casa.en("sel"));
     fijarLista({casa.en("Library"), casa.en("sel")});
 
-    EXPECT_EQ(validar(casa.en("Library/.git")), ELIGE);
-    EXPECT_EQ(validar(casa.en("Library/.git/nada")), ELIGE);
+    EXPECT_EQ(validar(casa.en("Library/.git")), ELIGE_CARPETA);
+    EXPECT_EQ(validar(casa.en("Library/.git/nada")), ELIGE_CARPETA);
     EXPECT_EQ(validar(casa.en("Library/x/.ssh")), NO_SE_ANALIZA);
     EXPECT_EQ(validar(casa.en("Library/x")), CONTIENE);
     EXPECT_EQ(validar(casa.en("sel")), CONTIENE);
@@ -178,7 +178,7 @@ TEST_F(SeguridadRaiz, aRootThatIsNotAConcreteFolderIsRefused)
     HogarTemporal::carpeta(casa.en("sel"));
     for (const auto &ruta : {"/"s, "//."s, ""s, casa.ruta(), casa.en("sel/.."), casa.en("enlace"),
                              casa.en("nada"), "~/sel"s, casa.en("sel "), "sel"s, casa.en("sel\0x"s)})
-        EXPECT_EQ(validar(ruta), ELIGE) << ruta;
+        EXPECT_EQ(validar(ruta), ELIGE_CARPETA) << ruta;
 }
 
 TEST_F(SeguridadRaiz, aFolderOutsideHomeMayBeChosen)

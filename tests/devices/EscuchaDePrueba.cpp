@@ -11,7 +11,7 @@ namespace ovanta::pruebas {
 
 namespace {
 
-void exigir(bool hecho)
+void exigirDeSistema(bool hecho)
 {
     if (!hecho) throw std::system_error(errno, std::generic_category());
 }
@@ -23,8 +23,9 @@ EscuchaDePrueba::EscuchaDePrueba(const std::string &ruta) : m_escucha(::socket(A
     sockaddr_un direccion{};
     direccion.sun_family = AF_UNIX;
     ruta.copy(direccion.sun_path, sizeof direccion.sun_path - 1);
-    exigir(::bind(m_escucha.numero(), reinterpret_cast<const sockaddr *>(&direccion), sizeof direccion) == 0);
-    exigir(::listen(m_escucha.numero(), 16) == 0);
+    exigirDeSistema(
+        ::bind(m_escucha.numero(), reinterpret_cast<const sockaddr *>(&direccion), sizeof direccion) == 0);
+    exigirDeSistema(::listen(m_escucha.numero(), 16) == 0);
 }
 
 EscuchaDePrueba::EscuchaDePrueba() : m_escucha(::socket(AF_INET6, SOCK_STREAM, 0))
@@ -32,8 +33,9 @@ EscuchaDePrueba::EscuchaDePrueba() : m_escucha(::socket(AF_INET6, SOCK_STREAM, 0
     sockaddr_in6 direccion{};
     direccion.sin6_family = AF_INET6;
     direccion.sin6_addr = in6addr_loopback;
-    exigir(::bind(m_escucha.numero(), reinterpret_cast<const sockaddr *>(&direccion), sizeof direccion) == 0);
-    exigir(::listen(m_escucha.numero(), 16) == 0);
+    exigirDeSistema(
+        ::bind(m_escucha.numero(), reinterpret_cast<const sockaddr *>(&direccion), sizeof direccion) == 0);
+    exigirDeSistema(::listen(m_escucha.numero(), 16) == 0);
 }
 
 EscuchaDePrueba::~EscuchaDePrueba()
@@ -45,21 +47,22 @@ std::uint16_t EscuchaDePrueba::puerto() const
 {
     sockaddr_in6 direccion{};
     socklen_t tamano = sizeof direccion;
-    exigir(::getsockname(m_escucha.numero(), reinterpret_cast<sockaddr *>(&direccion), &tamano) == 0);
+    exigirDeSistema(::getsockname(m_escucha.numero(), reinterpret_cast<sockaddr *>(&direccion), &tamano) ==
+                    0);
     return ntohs(direccion.sin6_port);
 }
 
 int EscuchaDePrueba::aceptar()
 {
     m_conexion = ::accept(m_escucha.numero(), nullptr, nullptr);
-    exigir(m_conexion >= 0);
+    exigirDeSistema(m_conexion >= 0);
     return m_conexion;
 }
 
 std::string EscuchaDePrueba::leer(int conexion, std::size_t cuantos) const
 {
     std::string bytes(cuantos, '\0');
-    exigir(::recv(conexion, bytes.data(), cuantos, MSG_WAITALL) == static_cast<ssize_t>(cuantos));
+    exigirDeSistema(::recv(conexion, bytes.data(), cuantos, MSG_WAITALL) == static_cast<ssize_t>(cuantos));
     return bytes;
 }
 

@@ -15,7 +15,7 @@ namespace {
 
 using Bio = std::unique_ptr<BIO, Soltador<BIO_free_all>>;
 
-void exigir(bool hecho)
+void exigirDeOpenSsl(bool hecho)
 {
     if (!hecho) throw std::runtime_error("OpenSSL refuses to make a test certificate");
 }
@@ -39,15 +39,15 @@ Certificado firmar(EVP_PKEY *clave, const ParDePrueba::Opciones &opciones)
     X509_NAME_add_entry_by_txt(nombre, "CN", MBSTRING_ASC, reinterpret_cast<const unsigned char *>("prueba"),
                                -1, -1, 0);
     X509_set_issuer_name(x509, nombre);
-    exigir(X509_set_pubkey(x509, clave) == 1);
+    exigirDeOpenSsl(X509_set_pubkey(x509, clave) == 1);
     if (opciones.relleno > 0) {
         const std::string largo(opciones.relleno, 'x');
         X509_EXTENSION *comentario =
             X509V3_EXT_conf_nid(nullptr, nullptr, NID_netscape_comment, largo.c_str());
-        exigir(comentario && X509_add_ext(x509, comentario, -1) == 1);
+        exigirDeOpenSsl(comentario && X509_add_ext(x509, comentario, -1) == 1);
         X509_EXTENSION_free(comentario);
     }
-    exigir(X509_sign(x509, clave, EVP_sha256()) > 0);
+    exigirDeOpenSsl(X509_sign(x509, clave, EVP_sha256()) > 0);
     return certificado;
 }
 
@@ -56,14 +56,14 @@ Certificado firmar(EVP_PKEY *clave, const ParDePrueba::Opciones &opciones)
 ParDePrueba::ParDePrueba(const Opciones &opciones)
     : clave(opciones.bitsRsa > 0 ? EVP_RSA_gen(static_cast<unsigned>(opciones.bitsRsa)) : EVP_EC_gen("P-256"))
 {
-    exigir(clave != nullptr);
+    exigirDeOpenSsl(clave != nullptr);
     certificado = firmar(clave.get(), opciones);
 }
 
 std::string ParDePrueba::der() const
 {
     const Bio bio{BIO_new(BIO_s_mem())};
-    exigir(i2d_X509_bio(bio.get(), certificado.get()) == 1);
+    exigirDeOpenSsl(i2d_X509_bio(bio.get(), certificado.get()) == 1);
     return contenido(bio);
 }
 
@@ -75,14 +75,14 @@ std::string ParDePrueba::pem() const
 std::string ParDePrueba::clavePem() const
 {
     const Bio bio{BIO_new(BIO_s_mem())};
-    exigir(i2d_PKCS8PrivateKeyInfo_bio(bio.get(), clave.get()) == 1);
+    exigirDeOpenSsl(i2d_PKCS8PrivateKeyInfo_bio(bio.get(), clave.get()) == 1);
     return enPem(contenido(bio));
 }
 
 std::string ParDePrueba::clavePkcs1() const
 {
     const Bio bio{BIO_new(BIO_s_mem())};
-    exigir(i2d_PrivateKey_bio(bio.get(), clave.get()) == 1);
+    exigirDeOpenSsl(i2d_PrivateKey_bio(bio.get(), clave.get()) == 1);
     return enPem(contenido(bio));
 }
 

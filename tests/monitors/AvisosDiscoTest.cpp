@@ -1,13 +1,14 @@
 #include "monitors/AvisosDisco.h"
+#include "tests/Medidas.h"
 
 #include <gtest/gtest.h>
 
 using namespace ovanta;
+using namespace ovanta::pruebas;
 using namespace std::chrono_literals;
 
 namespace {
 
-constexpr std::uint64_t GiB = 1ULL << 30;
 constexpr UmbralesDisco porDefecto{100.0, 50.0};
 
 const Fecha inicio{1'000'000'000s};
@@ -16,19 +17,19 @@ const Fecha inicio{1'000'000'000s};
 
 TEST(NivelDisco, freeSpaceExactlyAtAThresholdBelongsToItsLevel)
 {
-    EXPECT_EQ(nivelDe(50 * GiB, porDefecto), NivelDisco::critico);
-    EXPECT_EQ(nivelDe(50 * GiB + 1, porDefecto), NivelDisco::aviso);
-    EXPECT_EQ(nivelDe(100 * GiB, porDefecto), NivelDisco::aviso);
-    EXPECT_EQ(nivelDe(100 * GiB + 1, porDefecto), NivelDisco::ok);
+    EXPECT_EQ(nivelDe(50 * gib, porDefecto), NivelDisco::critico);
+    EXPECT_EQ(nivelDe(50 * gib + 1, porDefecto), NivelDisco::aviso);
+    EXPECT_EQ(nivelDe(100 * gib, porDefecto), NivelDisco::aviso);
+    EXPECT_EQ(nivelDe(100 * gib + 1, porDefecto), NivelDisco::ok);
     EXPECT_EQ(nivelDe(0, porDefecto), NivelDisco::critico);
 }
 
 TEST(NivelDisco, aCriticalThresholdAboveTheWarningLeavesNoRoomForIt)
 {
     constexpr UmbralesDisco cruzados{50.0, 100.0};
-    EXPECT_EQ(nivelDe(101 * GiB, cruzados), NivelDisco::ok);
-    EXPECT_EQ(nivelDe(100 * GiB, cruzados), NivelDisco::critico);
-    EXPECT_EQ(nivelDe(49 * GiB, cruzados), NivelDisco::critico);
+    EXPECT_EQ(nivelDe(101 * gib, cruzados), NivelDisco::ok);
+    EXPECT_EQ(nivelDe(100 * gib, cruzados), NivelDisco::critico);
+    EXPECT_EQ(nivelDe(49 * gib, cruzados), NivelDisco::critico);
 }
 
 TEST(NivelDisco, rawValuesAreStable)

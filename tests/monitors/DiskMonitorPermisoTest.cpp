@@ -1,4 +1,5 @@
 #include "monitors/DiskMonitor.h"
+#include "tests/Medidas.h"
 #include "tests/PlataformaDePrueba.h"
 
 #include <QCoreApplication>
@@ -11,10 +12,9 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr std::uint64_t GiB = 1ULL << 30;
-constexpr Volumen::Espacio lleno{1, 500 * GiB, 40 * GiB};
-constexpr Volumen::Espacio justo{1, 500 * GiB, 90 * GiB};
-constexpr Volumen::Espacio holgado{1, 500 * GiB, 200 * GiB};
+constexpr Volumen::Espacio lleno{1, 500 * gib, 40 * gib};
+constexpr Volumen::Espacio justo{1, 500 * gib, 90 * gib};
+constexpr Volumen::Espacio holgado{1, 500 * gib, 200 * gib};
 
 /// A volume on the network: it answers when the test lets it.
 struct VolumenLento final : Volumen

@@ -1,4 +1,5 @@
 #include "monitors/DiskMonitor.h"
+#include "tests/Medidas.h"
 #include "tests/PlataformaDePrueba.h"
 
 #include <QCoreApplication>
@@ -11,9 +12,7 @@ using namespace std::chrono_literals;
 
 namespace {
 
-constexpr std::uint64_t GiB = 1ULL << 30;
-
-/// A monitor over a volume of 500 GiB whose free space the test sets.
+/// A monitor over a volume of 500 gib whose free space the test sets.
 class DiskMonitorTest : public testing::Test
 {
 protected:
@@ -23,7 +22,7 @@ protected:
     void fijarLibres(double gibis)
     {
         plataforma.m_volumen.espacio =
-            Volumen::Espacio{1, 500 * GiB, static_cast<std::uint64_t>(gibis * GiB)};
+            Volumen::Espacio{1, 500 * gib, static_cast<std::uint64_t>(gibis * gib)};
     }
 
     /// Makes the monitor with `gibis` free and answers its question for permission.
@@ -66,9 +65,9 @@ TEST_F(DiskMonitorTest, publishesWhatTheVolumeSays)
 TEST_F(DiskMonitorTest, qmlReadsTheSameFiguresThroughProperties)
 {
     empezar(40);
-    EXPECT_EQ(monitor->property("libre").toULongLong(), 40 * GiB);
-    EXPECT_EQ(monitor->property("total").toULongLong(), 500 * GiB);
-    EXPECT_EQ(monitor->property("usado").toULongLong(), 460 * GiB);
+    EXPECT_EQ(monitor->property("libre").toULongLong(), 40 * gib);
+    EXPECT_EQ(monitor->property("total").toULongLong(), 500 * gib);
+    EXPECT_EQ(monitor->property("usado").toULongLong(), 460 * gib);
     EXPECT_DOUBLE_EQ(monitor->property("fraccionUsada").toDouble(), 0.92);
     EXPECT_EQ(monitor->property("nivel").toString(), QStringLiteral("critico"));
     EXPECT_EQ(monitor->property("ultimaLectura").toDateTime().toSecsSinceEpoch(), 1'795'238'316);
@@ -98,8 +97,8 @@ TEST_F(DiskMonitorTest, aFailingReadKeepsTheOldFiguresAndJudgesNothing)
     plataforma.m_volumen.espacio.reset();
     const QSignalSpy lecturas{monitor.get(), &DiskMonitor::lecturaChanged};
     monitor->medir();
-    EXPECT_EQ(monitor->libre(), 200 * GiB);
-    EXPECT_EQ(monitor->total(), 500 * GiB);
+    EXPECT_EQ(monitor->libre(), 200 * gib);
+    EXPECT_EQ(monitor->total(), 500 * gib);
     EXPECT_EQ(monitor->ultimaLectura(), antes);
     EXPECT_EQ(monitor->nivel(), NivelDisco::ok);
     EXPECT_EQ(lecturas.count(), 0);

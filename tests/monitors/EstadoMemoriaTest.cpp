@@ -1,15 +1,11 @@
 #include "monitors/EstadoMemoria.h"
+#include "tests/Medidas.h"
 
 #include <gtest/gtest.h>
 
 using namespace ovanta;
+using namespace ovanta::pruebas;
 using namespace std::chrono_literals;
-
-namespace {
-
-constexpr Fecha alguna{1'795'238'316s};
-
-} // namespace
 
 TEST(EstadoDeMemoria, followsTheKernelUnlessSwapIsWritten)
 {
@@ -47,21 +43,21 @@ TEST(FraccionDeMemoria, isNothingWhereTheTotalIsNotKnown)
 
 TEST(RitmoDeSwap, countsPagesASecond)
 {
-    EXPECT_DOUBLE_EQ(*ritmoSwap({1000, alguna}, {3000, alguna + 10s}), 200.0);
-    EXPECT_DOUBLE_EQ(*ritmoSwap({1000, alguna}, {1000, alguna + 10s}), 0.0);
+    EXPECT_DOUBLE_EQ(*ritmoSwap({1000, algunaFecha}, {3000, algunaFecha + 10s}), 200.0);
+    EXPECT_DOUBLE_EQ(*ritmoSwap({1000, algunaFecha}, {1000, algunaFecha + 10s}), 0.0);
 }
 
 TEST(RitmoDeSwap, twoReadingsCloseTogetherCountAsASecond)
 {
-    EXPECT_DOUBLE_EQ(*ritmoSwap({1000, alguna}, {1030, alguna + 200ms}), 30.0);
+    EXPECT_DOUBLE_EQ(*ritmoSwap({1000, algunaFecha}, {1030, algunaFecha + 200ms}), 30.0);
 }
 
 TEST(RitmoDeSwap, aClockThatWentBackGivesAFiniteFigure)
 {
-    EXPECT_DOUBLE_EQ(*ritmoSwap({1000, alguna}, {1030, alguna - 3600s}), 30.0);
+    EXPECT_DOUBLE_EQ(*ritmoSwap({1000, algunaFecha}, {1030, algunaFecha - 3600s}), 30.0);
 }
 
 TEST(RitmoDeSwap, aCounterThatWentBackGivesNone)
 {
-    EXPECT_EQ(ritmoSwap({1000, alguna}, {999, alguna + 10s}), std::nullopt);
+    EXPECT_EQ(ritmoSwap({1000, algunaFecha}, {999, algunaFecha + 10s}), std::nullopt);
 }

@@ -1,3 +1,4 @@
+#include "tests/Medidas.h"
 #include "tests/monitors/ApoyoMemoria.h"
 
 #include <future>
@@ -8,8 +9,6 @@ using namespace std::chrono_literals;
 using testing::IsEmpty;
 
 namespace {
-
-constexpr std::uint64_t gib = 1ULL << 30;
 
 using MemoryMonitorTest = MemoriaEn;
 

@@ -1,8 +1,10 @@
 #include "monitors/RankingProcesos.h"
+#include "tests/Medidas.h"
 
 #include <gmock/gmock.h>
 
 using namespace ovanta;
+using namespace ovanta::pruebas;
 using namespace std::chrono_literals;
 using testing::ElementsAre;
 using testing::Field;
@@ -13,8 +15,6 @@ namespace {
 
 using Politica = AplicacionEnMarcha::Politica;
 const std::optional<std::string> propio = "com.belmora.Ovanta";
-constexpr Fecha alguna{1'795'238'316s};
-
 MuestraProceso muestra(std::int32_t pid, const std::string &nombre, std::optional<std::string> ruta,
                        std::uint64_t huella, std::uint64_t tiempo = 0)
 {
@@ -132,8 +132,8 @@ TEST(SePuedeCerrar, dependsOnPolicyAndIdentifier)
 
 TEST(FigurasDeCPU, arePerCentOfTheWholeMachine)
 {
-    const auto antes = tiemposCPU({muestra(1, "a", {}, 1, 1'000'000'000)}, alguna);
-    const auto ahora = tiemposCPU({muestra(1, "a", {}, 1, 6'000'000'000)}, alguna + 10s);
+    const auto antes = tiemposCPU({muestra(1, "a", {}, 1, 1'000'000'000)}, algunaFecha);
+    const auto ahora = tiemposCPU({muestra(1, "a", {}, 1, 6'000'000'000)}, algunaFecha + 10s);
     EXPECT_THAT(figurasCPU(antes, ahora, 1), ElementsAre(Pair(1, 50.0)));
     EXPECT_THAT(figurasCPU(antes, ahora, 4), ElementsAre(Pair(1, 12.5)));
     EXPECT_THAT(figurasCPU(antes, ahora, 0), ElementsAre(Pair(1, 50.0))) << "at least one core";
@@ -141,9 +141,10 @@ TEST(FigurasDeCPU, arePerCentOfTheWholeMachine)
 
 TEST(FigurasDeCPU, needMoreThanHalfASecond)
 {
-    const auto antes = tiemposCPU({muestra(1, "a", {}, 1, 0)}, alguna);
+    const auto antes = tiemposCPU({muestra(1, "a", {}, 1, 0)}, algunaFecha);
     const auto tras = [&](std::chrono::milliseconds cuanto) {
-        return figurasCPU(antes, tiemposCPU({muestra(1, "a", {}, 1, 1'000'000)}, alguna + cuanto), 1).size();
+        return figurasCPU(antes, tiemposCPU({muestra(1, "a", {}, 1, 1'000'000)}, algunaFecha + cuanto), 1)
+            .size();
     };
     EXPECT_EQ(tras(200ms), 0U);
     EXPECT_EQ(tras(500ms), 0U);
@@ -154,9 +155,9 @@ TEST(FigurasDeCPU, needMoreThanHalfASecond)
 TEST(FigurasDeCPU, areAbsentForTheNewTheReusedAndTheOnesThatWentBack)
 {
     MuestraProceso reusado = muestra(3, "c", {}, 1, 900);
-    const auto antes = tiemposCPU({muestra(2, "b", {}, 1, 500), reusado}, alguna);
+    const auto antes = tiemposCPU({muestra(2, "b", {}, 1, 500), reusado}, algunaFecha);
     reusado.inicio += 1;
     const auto ahora =
-        tiemposCPU({muestra(1, "a", {}, 1, 100), muestra(2, "b", {}, 1, 499), reusado}, alguna + 10s);
+        tiemposCPU({muestra(1, "a", {}, 1, 100), muestra(2, "b", {}, 1, 499), reusado}, algunaFecha + 10s);
     EXPECT_THAT(figurasCPU(antes, ahora, 1), IsEmpty());
 }

@@ -25,10 +25,10 @@ struct Fingido
 };
 
 /// A folder that stands for /proc.
-class ProcDePrueba
+class ProcSintetico
 {
 public:
-    ProcDePrueba() { std::filesystem::create_directories(raiz()); }
+    ProcSintetico() { std::filesystem::create_directories(raiz()); }
 
     std::string raiz() const { return m_arbol.raiz() + "/proc"; }
     void poner(const std::string &ruta, std::string_view texto) const
@@ -59,7 +59,7 @@ const auto nanosPorTick = 1'000'000'000 / static_cast<std::uint64_t>(::sysconf(_
 
 std::string exeDe(const Fingido &fingido)
 {
-    const ProcDePrueba proc;
+    const ProcSintetico proc;
     proc.proceso(7, fingido);
     const auto vistos = BarridoProc(proc.raiz()).barrer();
     return vistos.empty() ? "none" : *vistos.front().exe;
@@ -69,7 +69,7 @@ std::string exeDe(const Fingido &fingido)
 
 TEST(BarridoProc, tellsAllOfAProcess)
 {
-    const ProcDePrueba proc;
+    const ProcSintetico proc;
     proc.proceso(7, {.comm = "a) b (c", .exe = "/opt/x/prog", .ticks = 250, .inicio = 42, .paginas = 11});
     const auto vistos = BarridoProc(proc.raiz()).barrer();
     ASSERT_EQ(vistos.size(), 1);
@@ -86,7 +86,7 @@ TEST(BarridoProc, tellsAllOfAProcess)
 
 TEST(BarridoProc, listsByPidAndOnlyWhatIsAProcess)
 {
-    const ProcDePrueba proc;
+    const ProcSintetico proc;
     for (const int pid : {300, 20, 1, 4194304})
         proc.proceso(pid);
     for (const char *ajeno : {"sys/stat", "12x/stat", "-5/stat", "0/stat", "99999999999/stat"})
@@ -99,7 +99,7 @@ TEST(BarridoProc, listsByPidAndOnlyWhatIsAProcess)
 
 TEST(BarridoProc, leavesOutKernelThreadsTheEndedAndWhatTakesNothing)
 {
-    const ProcDePrueba proc;
+    const ProcSintetico proc;
     proc.proceso(2, {.marcas = 0x00208040});
     proc.proceso(3, {.estado = 'Z'});
     proc.proceso(4, {.paginas = 0});
@@ -114,7 +114,7 @@ TEST(BarridoProc, leavesOutKernelThreadsTheEndedAndWhatTakesNothing)
 
 TEST(BarridoProc, doesNotReadAKernelThreadAgainUntilItsTurn)
 {
-    const ProcDePrueba proc;
+    const ProcSintetico proc;
     proc.proceso(2, {.marcas = 0x00208040});
     BarridoProc barrido{proc.raiz()};
     barrido.barrer();
@@ -128,7 +128,7 @@ TEST(BarridoProc, doesNotReadAKernelThreadAgainUntilItsTurn)
 
 TEST(BarridoProc, withHiddenProcessesShowsTheOthers)
 {
-    const ProcDePrueba proc;
+    const ProcSintetico proc;
     proc.proceso(5);
     proc.proceso(6);
     proc.quitar("5/stat");
@@ -141,7 +141,7 @@ TEST(BarridoProc, withHiddenProcessesShowsTheOthers)
 
 TEST(BarridoProc, aProcessThatVanishesBetweenTwoOfItsFilesIsLeftOut)
 {
-    const ProcDePrueba proc;
+    const ProcSintetico proc;
     proc.proceso(5);
     proc.quitar("5/statm");
     EXPECT_TRUE(BarridoProc(proc.raiz()).barrer().empty());
@@ -149,7 +149,7 @@ TEST(BarridoProc, aProcessThatVanishesBetweenTwoOfItsFilesIsLeftOut)
 
 TEST(BarridoProc, forgetsWhatVanishedAndReadsAnewWhoeverGetsItsNumber)
 {
-    const ProcDePrueba proc;
+    const ProcSintetico proc;
     proc.proceso(5, {.exe = "/a", .inicio = 1});
     BarridoProc barrido{proc.raiz()};
     barrido.barrer();
@@ -168,7 +168,7 @@ TEST(BarridoProc, forgetsWhatVanishedAndReadsAnewWhoeverGetsItsNumber)
 
 TEST(BarridoProc, sharesOneTextForTheProgramFromSweepToSweep)
 {
-    const ProcDePrueba proc;
+    const ProcSintetico proc;
     proc.proceso(5);
     BarridoProc barrido{proc.raiz()};
     const auto primero = barrido.barrer().front().exe;
@@ -202,7 +202,7 @@ TEST(BarridoProc, aRelativeOrOverlongPathIsNotTakenForOne)
 
 TEST(BarridoProc, countersThatGoBackAreToldAsTheyStand)
 {
-    const ProcDePrueba proc;
+    const ProcSintetico proc;
     BarridoProc barrido{proc.raiz()};
     for (const std::uint64_t ticks : {900, 100, 0}) {
         proc.proceso(5, {.ticks = ticks, .paginas = 1 + ticks});
@@ -215,7 +215,7 @@ TEST(BarridoProc, countersThatGoBackAreToldAsTheyStand)
 
 TEST(BarridoProc, figuresThatDoNotFitStopAtTheLargest)
 {
-    const ProcDePrueba proc;
+    const ProcSintetico proc;
     proc.proceso(5, {.ticks = UINT64_MAX});
     proc.poner("5/statm", "1 18446744073709551615 0 1 0 0 0\n");
     const auto vistos = BarridoProc(proc.raiz()).barrer();
@@ -226,7 +226,7 @@ TEST(BarridoProc, figuresThatDoNotFitStopAtTheLargest)
 
 TEST(BarridoProc, countsSwappedMemoryOnlyWhileTheMachineUsesSwap)
 {
-    const ProcDePrueba proc;
+    const ProcSintetico proc;
     proc.proceso(5, {.paginas = 2, .swapKB = 100});
     proc.proceso(6, {.paginas = 0, .swapKB = 8});
     BarridoProc barrido{proc.raiz()};
@@ -243,7 +243,7 @@ TEST(BarridoProc, countsSwappedMemoryOnlyWhileTheMachineUsesSwap)
 
 TEST(BarridoProc, readsTheProcessOfEveryKernel)
 {
-    const ProcDePrueba proc;
+    const ProcSintetico proc;
     proc.poner("meminfo", fixturaProc("5.10", "meminfo"));
     std::map<std::string, std::uint64_t> huellas;
     for (int pid = 10; const char *kernel : {"3.10", "4.19", "5.10", "6.1", "6.18"}) {
@@ -262,7 +262,7 @@ TEST(BarridoProc, readsTheProcessOfEveryKernel)
 
 TEST(BarridoProc, sweepsTwentyThousandProcesses)
 {
-    const ProcDePrueba proc;
+    const ProcSintetico proc;
     constexpr int cuantos = 20'000;
     proc.proceso(1);
     for (int pid = 2; pid <= cuantos; ++pid)

@@ -24,6 +24,12 @@ inline void dejarPasar()
     QTest::qWait(150);
 }
 
+/// A connection to no bus at all.
+inline QDBusConnection sinBus()
+{
+    return QDBusConnection{QStringLiteral("no hay tal bus")};
+}
+
 /// A message bus of the test's own.
 class BusDePrueba
 {

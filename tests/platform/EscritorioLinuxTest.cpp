@@ -29,11 +29,6 @@ const QString contraste = QStringLiteral("high-contrast");
 
 constexpr Apariencia::Estado encendido{true, true, true};
 
-QDBusConnection sinBus()
-{
-    return QDBusConnection{QStringLiteral("no hay tal bus")};
-}
-
 /// A portal where everything is switched on.
 ServidorSimulado portalEncendido(BusDePrueba &bus)
 {

@@ -13,7 +13,7 @@ namespace {
 const QString gestor = QStringLiteral("org.freedesktop.FileManager1");
 const QString rutaGestor = QStringLiteral("/org/freedesktop/FileManager1");
 
-std::string leer(const std::string &ruta)
+std::string leerTexto(const std::string &ruta)
 {
     std::ifstream archivo{ruta};
     return {std::istreambuf_iterator<char>{archivo}, {}};
@@ -63,7 +63,7 @@ public:
     std::string abierto() const
     {
         EXPECT_TRUE(esperarA([&] { return std::filesystem::exists(m_registro); }));
-        return leer(m_registro);
+        return leerTexto(m_registro);
     }
 
     bool nadaAbierto() const { return !std::filesystem::exists(m_registro); }

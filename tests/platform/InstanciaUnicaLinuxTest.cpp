@@ -32,11 +32,6 @@ struct Copia
     }
 };
 
-QDBusConnection sinBus()
-{
-    return QDBusConnection{QStringLiteral("no hay tal bus")};
-}
-
 std::string nombreLargo()
 {
     return std::string(150, 'x');

@@ -14,7 +14,7 @@ const std::string app = "/user.slice/user-1000.slice/user@1000.service/app.slice
 const std::string numero(64, 'a');
 const std::string corto(12, 'a');
 
-struct Caso
+struct CasoOrigen
 {
     std::string grupo;
     Clase clase;
@@ -25,7 +25,7 @@ struct Caso
 
 TEST(OrigenProceso, aGroupTellsWhatHoldsTheProcess)
 {
-    const std::vector<Caso> casos = {
+    const std::vector<CasoOrigen> casos = {
         {app + "app-gnome-org.gnome.Nautilus-4321.scope", Clase::aplicacion, "org.gnome.Nautilus"},
         {app + R"(app-gnome-firefox\x2desr-4321.scope)", Clase::aplicacion, "firefox-esr"},
         {app + "app-org.kde.kate-0123456789abcdef.scope", Clase::aplicacion, "org.kde.kate"},
@@ -70,7 +70,7 @@ TEST(OrigenProceso, aGroupTellsWhatHoldsTheProcess)
         {app + "gnome-terminal-server.service", Clase::ninguna, ""},
         {"/", Clase::ninguna, ""},
     };
-    for (const Caso &caso : casos) {
+    for (const CasoOrigen &caso : casos) {
         const auto origen = origenDe("0::" + caso.grupo + "\n");
         EXPECT_EQ(origen.clase, caso.clase) << caso.grupo;
         EXPECT_EQ(origen.id, caso.id) << caso.grupo;

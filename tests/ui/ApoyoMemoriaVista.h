@@ -1,13 +1,12 @@
 #pragma once
 
+#include "tests/Medidas.h"
 #include "tests/ui/BancoInterfaz.h"
 #include "ui/MemoryViewEstado.h"
 
 #include <memory>
 
 namespace ovanta::pruebas {
-
-inline constexpr std::uint64_t gib = 1ULL << 30;
 
 /// The rules of the memory screen over a machine by script.
 class MemoriaEstado : public BancoInterfaz

@@ -191,7 +191,7 @@ void BancoInterfaz::ponerHistorial(int entradas)
 
 void BancoInterfaz::esperar(const std::function<bool()> &cierto)
 {
-    ASSERT_TRUE(QTest::qWaitFor(cierto, 5'000));
+    ASSERT_TRUE(QTest::qWaitFor(cierto, 60'000));
 }
 
 void BancoInterfaz::medir()
@@ -204,16 +204,14 @@ void BancoInterfaz::frenar()
 {
     m_freno.emplace();
     plataforma.m_herramientas.alEjecutar = [guion = plataforma.m_herramientas.alEjecutar,
-                                            fin = m_freno->get_future().share()](const auto &binario,
-                                                                                 const auto &args) {
-        fin.wait();
+                                            aqui = m_freno->aqui()](const auto &binario, const auto &args) {
+        aqui();
         return guion(binario, args);
     };
 }
 
 void BancoInterfaz::soltar()
 {
-    if (m_freno) m_freno->set_value();
     m_freno.reset();
 }
 

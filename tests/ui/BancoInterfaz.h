@@ -3,6 +3,7 @@
 #include "app/OvantaApp.h"
 #include "core/qt/SegundoPlano.h"
 #include "core/qt/Texto.h"
+#include "tests/Freno.h"
 #include "tests/HogarTemporal.h"
 #include "tests/PlataformaDePrueba.h"
 #include "ui/InterfazQml.h"
@@ -12,7 +13,6 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <functional>
-#include <future>
 #include <gtest/gtest.h>
 #include <memory>
 #include <optional>
@@ -64,7 +64,7 @@ protected:
     PlataformaDePrueba plataforma;
 
 private:
-    std::optional<std::promise<void>> m_freno;
+    std::optional<Freno> m_freno;
     std::unique_ptr<OvantaApp> m_app;
     std::unique_ptr<Aspecto> m_aspecto;
 };

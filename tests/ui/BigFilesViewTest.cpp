@@ -100,14 +100,14 @@ TEST_F(BigFilesView, aPersonMarksByKeyboardConfirmsAndFindsTheResult)
 TEST_F(BigFilesView, anAnalysisKeepsTheOldListsAndCanBeStopped)
 {
     llenarYAbrir();
-    std::promise<void> freno;
-    auto fin = freno.get_future().share();
-    plataforma.m_accesoArchivos.alMirarCarpeta = [fin] { fin.wait(); };
+    Freno freno;
+    plataforma.m_accesoArchivos.alMirarCarpeta = freno.aqui();
     pulsarBoton(QStringLiteral("Analizar de nuevo"));
     EXPECT_TRUE(seVe(QStringLiteral("Editor.dmg")));
+    esperar([&] { return freno.llegado(); });
     pulsarBoton(QStringLiteral("Detener"));
     EXPECT_TRUE(seVe(QStringLiteral("Deteniendo")));
-    freno.set_value();
+    freno.soltar();
     esperarReposo();
     EXPECT_TRUE(seVe(QStringLiteral("Editor.dmg")));
     EXPECT_FALSE(seVe(QStringLiteral("Deteniendo")));

@@ -55,13 +55,12 @@ protected:
     }
     void retratarTrabajando(const QString &nombre)
     {
-        std::promise<void> freno;
-        auto fin = freno.get_future().share();
-        plataforma.m_accesoArchivos.alMirarCarpeta = [fin] { fin.wait(); };
+        Freno freno;
+        plataforma.m_accesoArchivos.alMirarCarpeta = freno.aqui();
         pulsarBoton(QStringLiteral("Analizar ahora"));
         EXPECT_TRUE(seVe(QStringLiteral("Detener")));
         retratar(nombre);
-        freno.set_value();
+        freno.soltar();
         esperarReposo();
         plataforma.m_accesoArchivos.alMirarCarpeta = [] {};
     }

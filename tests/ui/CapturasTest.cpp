@@ -11,7 +11,7 @@ struct Vista
     Seccion seccion;
 };
 
-class Capturas : public BancoVentana, public testing::WithParamInterface<Vista>
+class CapturasPantallas : public BancoVentana, public testing::WithParamInterface<Vista>
 {
 protected:
     void retratar(const QString &aspecto, Apariencia::Estado estado, QSize tamano)
@@ -26,7 +26,7 @@ protected:
 
 } // namespace
 
-TEST_P(Capturas, everyScreenStandsInEveryLookAndSize)
+TEST_P(CapturasPantallas, everyScreenStandsInEveryLookAndSize)
 {
     ponerCatalogoRealista();
     ponerHistorial(500);
@@ -43,7 +43,7 @@ TEST_P(Capturas, everyScreenStandsInEveryLookAndSize)
 }
 
 INSTANTIATE_TEST_SUITE_P(
-    Pantallas, Capturas,
+    Todas, CapturasPantallas,
     testing::Values(Vista{"resumen", Seccion::resumen}, Vista{"caches", Seccion::espacio},
                     Vista{"historial", Seccion::historial}, Vista{"ajustes", Seccion::ajustes},
                     Vista{"memoria", Seccion::memoria}, Vista{"construccion", Seccion::salud}),

@@ -148,9 +148,8 @@ TEST_F(DuplicatesView, whatCouldNotMoveIsToldInWords)
 
 TEST_F(DuplicatesView, anAnalysisIsToldAndCanBeStopped)
 {
-    std::promise<void> freno;
-    auto fin = freno.get_future().share();
-    plataforma.m_accesoArchivos.alMirarCarpeta = [fin] { fin.wait(); };
+    Freno freno;
+    plataforma.m_accesoArchivos.alMirarCarpeta = freno.aqui();
     grupo("foto", 2, 1000);
     abrir(Seccion::duplicados);
     pulsarBoton(QStringLiteral("Analizar ahora"));
@@ -158,10 +157,11 @@ TEST_F(DuplicatesView, anAnalysisIsToldAndCanBeStopped)
          {"Analizando…", "Puedes seguir usando Ovanta mientras termina.", "Recorriendo carpetas…", "Detener"})
         EXPECT_TRUE(seVe(QString::fromUtf8(texto))) << texto;
     EXPECT_FALSE(disponible(QAccessible::Button, QStringLiteral("Analizar ahora")));
+    esperar([&] { return freno.llegado(); });
     pulsarBoton(QStringLiteral("Detener"));
     EXPECT_TRUE(seVe(QStringLiteral("Deteniendo…")));
     EXPECT_FALSE(disponible(QAccessible::Button, QStringLiteral("Deteniendo")));
-    freno.set_value();
+    freno.soltar();
     esperar([&] { return seVe(QStringLiteral("Busca copias idénticas")); });
     EXPECT_FALSE(seVe(QStringLiteral("Detener")));
 }
@@ -232,9 +232,8 @@ TEST_F(DuplicatesView, aHundredThousandRowsBuildOnlyThoseThatShow)
 
 TEST_F(DuplicatesView, theMagnifierStandsStillWithReducedMotionAndMovesElse)
 {
-    std::promise<void> freno;
-    auto fin = freno.get_future().share();
-    plataforma.m_accesoArchivos.alMirarCarpeta = [fin] { fin.wait(); };
+    Freno freno;
+    plataforma.m_accesoArchivos.alMirarCarpeta = freno.aqui();
     abrir(Seccion::duplicados);
     casa.carpeta(casa.en("Downloads"));
     pulsarBoton(QStringLiteral("Analizar ahora"));
@@ -252,6 +251,6 @@ TEST_F(DuplicatesView, theMagnifierStandsStillWithReducedMotionAndMovesElse)
     esperar([&] { return lupa->property("vuelta").toReal() > 0; });
     ventana()->hide();
     EXPECT_FALSE(lupa->property("enMovimiento").toBool());
-    freno.set_value();
+    freno.soltar();
     esperarReposo();
 }

@@ -1,13 +1,13 @@
 #include "ui/FilasMemoria.h"
+#include "tests/Medidas.h"
 #include "ui/MemoryViewEstado.h"
 
 #include <gtest/gtest.h>
 
 using namespace ovanta;
+using namespace ovanta::pruebas;
 
 namespace {
-
-constexpr std::uint64_t gib = 1ULL << 30;
 
 Proceso proceso(double cpu, std::uint64_t rss, std::size_t cuantos = 1)
 {

@@ -33,7 +33,7 @@ QColor mezclar(const QColor &encima, const QColor &debajo, float opacidad)
                             canal(encima.blueF(), debajo.blueF()));
 }
 
-struct Aspecto
+struct AspectoPaleta
 {
     const char *nombre;
     bool oscuro;
@@ -44,7 +44,7 @@ struct Aspecto
 constexpr Tinte tintes[] = {Tinte::Azul, Tinte::Verde,    Tinte::Naranja, Tinte::Rojo, Tinte::Morado,
                             Tinte::Rosa, Tinte::Turquesa, Tinte::Indigo,  Tinte::Gris, Tinte::Secundario};
 
-class PaletaEn : public testing::TestWithParam<Aspecto>
+class PaletaEn : public testing::TestWithParam<AspectoPaleta>
 {
 protected:
     const Colores colores = paleta(GetParam().oscuro, GetParam().altoContraste);
@@ -97,8 +97,8 @@ TEST_P(PaletaEn, filledButtonsCanBeRead)
 }
 
 INSTANTIATE_TEST_SUITE_P(Aspectos, PaletaEn,
-                         testing::Values(Aspecto{"clara", false, false, 4.5},
-                                         Aspecto{"oscura", true, false, 4.5},
-                                         Aspecto{"claraDeAltoContraste", false, true, 7.0},
-                                         Aspecto{"oscuraDeAltoContraste", true, true, 7.0}),
+                         testing::Values(AspectoPaleta{"clara", false, false, 4.5},
+                                         AspectoPaleta{"oscura", true, false, 4.5},
+                                         AspectoPaleta{"claraDeAltoContraste", false, true, 7.0},
+                                         AspectoPaleta{"oscuraDeAltoContraste", true, true, 7.0}),
                          [](const auto &info) { return info.param.nombre; });

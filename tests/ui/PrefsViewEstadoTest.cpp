@@ -1,4 +1,5 @@
 #include "ui/PrefsViewEstado.h"
+#include "tests/Medidas.h"
 #include "tests/ui/BancoInterfaz.h"
 
 #include <QSignalSpy>
@@ -33,8 +34,6 @@ protected:
 
     std::unique_ptr<PrefsViewEstado> m_estado;
 };
-
-constexpr std::uint64_t gib = 1024ULL * 1024 * 1024;
 
 struct Caso
 {

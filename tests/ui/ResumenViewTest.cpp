@@ -96,18 +96,18 @@ TEST_F(ResumenView, analysingEverythingAlsoLooksThroughTheFilesAndStopEndsThat)
 {
     abrir();
     esperar([&] { return !app().reglas().midiendo(); });
-    std::promise<void> freno;
-    auto fin = freno.get_future().share();
-    plataforma.m_accesoArchivos.alMirarCarpeta = [fin] { fin.wait(); };
+    Freno freno;
+    plataforma.m_accesoArchivos.alMirarCarpeta = freno.aqui();
     casa.carpeta(casa.en("Downloads"));
     pulsarBoton(QStringLiteral("Analizar todo"));
     EXPECT_TRUE(app().scanner().trabajando());
     EXPECT_TRUE(seVe(QStringLiteral("Analizando")));
     EXPECT_TRUE(disponible(QAccessible::Button, QStringLiteral("Detener")));
+    esperar([&] { return freno.llegado(); });
     pulsarBoton(QStringLiteral("Detener"));
     EXPECT_EQ(app().scanner().progreso(), QStringLiteral("Deteniendo…"));
     EXPECT_FALSE(disponible(QAccessible::Button, QStringLiteral("Deteniendo")));
-    freno.set_value();
+    freno.soltar();
     esperar([&] { return seVe(QStringLiteral("Analizar todo")); });
     EXPECT_FALSE(seVe(QStringLiteral("Deteniendo")));
 }

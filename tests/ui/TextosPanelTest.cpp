@@ -7,7 +7,7 @@ using namespace ovanta;
 
 namespace {
 
-EstadoBateria bateria(int porcentaje)
+EstadoBateria bateriaCon(int porcentaje)
 {
     EstadoBateria b;
     b.porcentaje = porcentaje;
@@ -76,7 +76,7 @@ TEST(TextosPanel, aRateIsInWholeKilobytesBelowAMillionAndInMegabytesFromThere)
 
 TEST(TextosPanel, theBatterySaysTheFirstThatAppliesOfChargingMainsAndTime)
 {
-    EstadoBateria b = bateria(78);
+    EstadoBateria b = bateriaCon(78);
     EXPECT_EQ(texto(textoBateria(b)), "78 %");
     b.minutosRestantes = 185;
     EXPECT_EQ(texto(textoBateria(b)), "78 % · 3 h 5 min");
@@ -95,17 +95,17 @@ TEST(TextosPanel, theBatterysSymbolFollowsItsCharge)
                                                {63, "battery.75"},  {87, "battery.75"}, {88, "battery.100"},
                                                {100, "battery.100"}};
     for (const auto &[carga, simbolo] : casos)
-        EXPECT_EQ(texto(simboloBateria(bateria(carga))), simbolo) << carga;
-    EstadoBateria cargando = bateria(5);
+        EXPECT_EQ(texto(simboloBateria(bateriaCon(carga))), simbolo) << carga;
+    EstadoBateria cargando = bateriaCon(5);
     cargando.cargando = true;
     EXPECT_EQ(texto(simboloBateria(cargando)), "battery.100.bolt");
 }
 
 TEST(TextosPanel, aLowBatteryIsRedUnlessItCharges)
 {
-    EXPECT_EQ(tinteBateria(bateria(21)), Tinte::Secundario);
-    EXPECT_EQ(tinteBateria(bateria(20)), Tinte::Rojo);
-    EstadoBateria b = bateria(3);
+    EXPECT_EQ(tinteBateria(bateriaCon(21)), Tinte::Secundario);
+    EXPECT_EQ(tinteBateria(bateriaCon(20)), Tinte::Rojo);
+    EstadoBateria b = bateriaCon(3);
     b.enCorriente = true;
     EXPECT_EQ(tinteBateria(b), Tinte::Rojo) << "on mains, yet not charging";
     b.cargando = true;
@@ -114,7 +114,7 @@ TEST(TextosPanel, aLowBatteryIsRedUnlessItCharges)
 
 TEST(TextosPanel, theBatterysHealthIsToldWhereItIsKnown)
 {
-    EstadoBateria b = bateria(50);
+    EstadoBateria b = bateriaCon(50);
     b.ciclos = 214;
     EXPECT_EQ(texto(textoSalud(b)), "");
     EXPECT_EQ(tinteSalud(b), Tinte::Secundario);
