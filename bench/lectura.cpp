@@ -21,7 +21,9 @@ struct Mesa
     {
         OpcionesDispositivo opciones;
         opciones.sesionCifrada = opciones.servicioCifrado = cifrado;
-        return std::make_shared<DispositivoSimulado>(opciones);
+        auto nuevo = std::make_shared<DispositivoSimulado>(opciones);
+        nuevo->emparejamiento(); // making its keys is no part of a reading
+        return nuevo;
     }
 
     void leer(Conexiones &por) const

@@ -80,6 +80,7 @@ bool esUtf8(std::string_view bytes)
 
 std::string repararUtf8(std::string_view bytes)
 {
+    if (esUtf8(bytes)) return std::string(bytes);
     std::string reparado;
     reparado.reserve(bytes.size());
     while (!bytes.empty()) {

@@ -1,12 +1,9 @@
-#include "devices/Usbmux.h"
-#include "platform/ConexionesPosix.h"
-#include "tests/devices/DispositivosDePrueba.h"
+#include "tests/devices/MesaDePrueba.h"
 
 #include <algorithm>
 #include <future>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <thread>
 
 using namespace ovanta;
 using namespace ovanta::pruebas;
@@ -16,42 +13,6 @@ using testing::HasSubstr;
 using testing::StartsWith;
 
 namespace {
-
-using Ajuste = std::function<void(OpcionesDispositivo &)>;
-
-/// One simulated device behind a simulated usbmuxd, on real sockets.
-struct Mesa
-{
-    explicit Mesa(const Ajuste &ajustar = {}, UsbmuxdSimulado::Opciones opciones = {})
-        : telefono(dispositivo(ajustar)), usbmuxd({telefono}, std::move(opciones)), conexiones(usbmuxd.ruta())
-    {
-    }
-
-    std::expected<LecturaBateriaIOS, ErrorIOS> leer(const Plazo &plazo = Plazo{60s})
-    {
-        const auto conectados = Usbmux::conectados(conexiones, plazo);
-        if (!conectados) return std::unexpected(conectados.error());
-        if (conectados->size() != 1) return std::unexpected(ErrorIOS::otro("no hay un dispositivo"));
-        return Usbmux::leer(conexiones, conectados->front(), plazo);
-    }
-    std::string fallo(const Plazo &plazo = Plazo{60s})
-    {
-        const auto leida = leer(plazo);
-        return leida ? "" : leida.error().errorDescription();
-    }
-
-    /// What the device saw, once it has seen so much: it writes that down at its own pace.
-    std::vector<std::string> diario(std::size_t cuantas) const
-    {
-        for (const Plazo plazo{20s}; telefono->diario().lineas().size() < cuantas && !plazo.vencido();)
-            std::this_thread::sleep_for(5ms);
-        return telefono->diario().lineas();
-    }
-
-    std::shared_ptr<DispositivoSimulado> telefono;
-    UsbmuxdSimulado usbmuxd;
-    ConexionesPosix conexiones;
-};
 
 /// What the device would tell of itself.
 LecturaBateriaIOS esperada(const OpcionesDispositivo &opciones)
@@ -66,15 +27,6 @@ LecturaBateriaIOS esperada(const OpcionesDispositivo &opciones)
     lectura.porcentaje = opciones.bateria.porcentaje;
     lectura.cargando = opciones.bateria.cargando;
     return lectura;
-}
-
-/// One byte at a time, with a pause behind each.
-FallosSimulados goteo(std::chrono::milliseconds pausa)
-{
-    FallosSimulados fallos;
-    fallos.trozo = 1;
-    fallos.pausa = pausa;
-    return fallos;
 }
 
 } // namespace
@@ -181,16 +133,6 @@ TEST(LecturasClasicas, aDeviceWithAnotherCertificateIsNotTalkedTo)
     }
 }
 
-TEST(LecturasClasicas, handshakesThatFailAreTold)
-{
-    for (const AlNegociar modo : {AlNegociar::cierra, AlNegociar::alerta, AlNegociar::basura}) {
-        EXPECT_THAT(Mesa([&](OpcionesDispositivo &opciones) { opciones.alNegociarSesion = modo; }).fallo(),
-                    StartsWith("Cifrado: negociación ("));
-        EXPECT_THAT(Mesa([&](OpcionesDispositivo &opciones) { opciones.alNegociarServicio = modo; }).fallo(),
-                    StartsWith("Cifrado: negociación ("));
-    }
-}
-
 TEST(LecturasClasicas, aDeviceWithoutBatteryValuesIsReadAllTheSame)
 {
     Mesa mesa([](OpcionesDispositivo &opciones) { opciones.conDominioDeBateria = false; });
@@ -217,72 +159,6 @@ TEST(LecturasClasicas, aDeviceThatDoesNotTellTheHealthOfItsBatteryGivesTheRest)
     EXPECT_NE(leida->registro.buscar("CycleCount"), nullptr);
 }
 
-TEST(LecturasClasicas, aRelayWithoutARegistryIsTold)
-{
-    EXPECT_EQ(Mesa([](OpcionesDispositivo &opciones) {
-                  opciones.estadoRele = "Failure";
-                  opciones.conDiagnostico = false;
-              }).fallo(),
-              "El dispositivo no comparte los datos de la batería (Failure).");
-    EXPECT_EQ(Mesa([](OpcionesDispositivo &opciones) {
-                  opciones.estadoRele.reset();
-                  opciones.registro = DiccionarioPlist{};
-              }).fallo(),
-              "El dispositivo no comparte los datos de la batería (sin estado).");
-}
-
-TEST(LecturasClasicas, aServiceThatDoesNotOpenIsTold)
-{
-    EXPECT_EQ(Mesa([](OpcionesDispositivo &opciones) { opciones.puertoRele.reset(); }).fallo(),
-              "El dispositivo no abrió el servicio de diagnóstico.");
-    EXPECT_EQ(Mesa([](OpcionesDispositivo &opciones) { opciones.rechazaConexiones = true; }).fallo(),
-              "usbmuxd rechazó la conexión al dispositivo");
-}
-
-TEST(LecturasClasicas, errorsOfEachRequestAreToldButThoseOfTheFarewell)
-{
-    for (const char *pedido : {"StartSession", "GetValue", "StartService"})
-        EXPECT_EQ(Mesa([&](OpcionesDispositivo &opciones) {
-                      opciones.fallosLockdown.errores = {{pedido, "Roto"}};
-                  }).fallo(),
-                  std::string(pedido) + ": Roto");
-    EXPECT_TRUE(Mesa([](OpcionesDispositivo &opciones) {
-                    opciones.fallosLockdown.errores = {{"StopSession", "Roto"}};
-                }).leer());
-}
-
-TEST(LecturasClasicas, aPeerThatClosesAtAnyStepIsToldAndTheFarewellIsNone)
-{
-    for (int paso = 0; paso < 4; ++paso)
-        EXPECT_NE(Mesa([&](OpcionesDispositivo &opciones) {
-                      opciones.fallosLockdown.cerrarEnElPaso = paso;
-                  }).fallo(),
-                  "")
-            << paso;
-    EXPECT_TRUE(
-        Mesa([](OpcionesDispositivo &opciones) { opciones.fallosLockdown.cerrarEnElPaso = 4; }).leer());
-    EXPECT_NE(Mesa([](OpcionesDispositivo &opciones) { opciones.fallosRele.cerrarEnElPaso = 0; }).fallo(),
-              "");
-    EXPECT_TRUE(Mesa([](OpcionesDispositivo &opciones) { opciones.fallosRele.cerrarEnElPaso = 1; }).leer());
-}
-
-TEST(LecturasClasicas, garbageAndLengthsThatLieEndTheReading)
-{
-    for (const std::uint32_t longitud : {0u, 1u, 0x2000000u, 0xFFFFFFFFu})
-        EXPECT_NE(Mesa([&](OpcionesDispositivo &opciones) {
-                      opciones.fallosRele.mentirEnElPaso = 0;
-                      opciones.fallosRele.longitudMentida = longitud;
-                  }).fallo(),
-                  "")
-            << longitud;
-    EXPECT_THAT(Mesa([](OpcionesDispositivo &opciones) { opciones.fallosRele.basuraEnElPaso = 0; }).fallo(),
-                StartsWith("Lista de propiedades ilegible"));
-    UsbmuxdSimulado::Opciones deUsbmuxd;
-    deUsbmuxd.fallos.mentirEnElPaso = 0;
-    deUsbmuxd.fallos.longitudMentida = 0x1FFFFFF;
-    EXPECT_EQ(Mesa({}, deUsbmuxd).fallo(), "respuesta de usbmuxd ilegible");
-}
-
 TEST(LecturasClasicas, pieceByPieceTheReadingIsTheSame)
 {
     UsbmuxdSimulado::Opciones deUsbmuxd;
@@ -293,30 +169,6 @@ TEST(LecturasClasicas, pieceByPieceTheReadingIsTheSame)
     const auto leida = mesa.leer();
     ASSERT_TRUE(leida) << leida.error().errorDescription();
     EXPECT_EQ(*leida, esperada(mesa.telefono->opciones()));
-}
-
-TEST(LecturasClasicas, theTotalBoundHoldsAgainstAPeerThatDrips)
-{
-    const std::string tarde = "Conexión: el dispositivo no respondió a tiempo";
-    UsbmuxdSimulado::Opciones deUsbmuxd;
-    deUsbmuxd.fallos = goteo(300ms);
-    EXPECT_EQ(Mesa({}, deUsbmuxd).fallo(Plazo{1s}), tarde);
-    Mesa mesa([](OpcionesDispositivo &opciones) {
-        opciones.servicioCifrado = false;
-        opciones.fallosRele = goteo(300ms);
-    });
-    EXPECT_EQ(mesa.fallo(Plazo{2s}), tarde);
-}
-
-TEST(LecturasClasicas, aReadingIsGivenUpFromAnotherThread)
-{
-    Mesa mesa([](OpcionesDispositivo &opciones) { opciones.fallosLockdown.callarEnElPaso = 1; });
-    const Plazo plazo{60s};
-    auto leida = std::async(std::launch::async, [&] { return mesa.leer(plazo); });
-    std::this_thread::sleep_for(300ms);
-    plazo.rendir();
-    ASSERT_EQ(leida.wait_for(20s), std::future_status::ready);
-    EXPECT_FALSE(leida.get());
 }
 
 TEST(LecturasClasicas, twoDevicesAreReadSideBySide)

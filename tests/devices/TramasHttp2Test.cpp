@@ -26,7 +26,7 @@ TEST(TramasHttp2, theLowTwentyFourBitsOfTheLengthAreWritten)
 
 TEST(TramasHttp2, aHeaderReadsBackAsItWasWritten)
 {
-    for (const std::size_t largo : {0u, 1u, 255u, 256u, 65536u, 0xFFFFFFu})
+    for (const std::size_t largo : {0u, 1u, 255u, 256u, 65536u})
         for (const std::uint32_t stream : {0u, 1u, 3u, 0x7FFFFFFFu, 0xFFFFFFFFu}) {
             const std::string bytes = http2::frame(0xFE, 0x85, stream, std::string(largo, 'x'));
             const http2::Cabecera esperada{
