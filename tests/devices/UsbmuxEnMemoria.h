@@ -10,6 +10,9 @@ namespace ovanta::pruebas {
 inline const Usbmux::Dispositivo porCable{.id = 7, .udid = "00008110-1", .porRed = false};
 inline const Plazo sobrado{std::chrono::hours(24)};
 
+/// How a locked device answers.
+inline const DiccionarioPlist conError{{"Error", "PasswordProtected"}};
+
 /// A device in memory behind usbmuxd.
 struct UsbmuxEnMemoria : testing::Test
 {

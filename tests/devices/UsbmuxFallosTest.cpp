@@ -12,7 +12,6 @@ namespace {
 
 using UsbmuxFallosTest = UsbmuxEnMemoria;
 
-const DiccionarioPlist conError{{"Error", "PasswordProtected"}};
 const std::string noAbrio = "El dispositivo no abrió el servicio de diagnóstico.";
 
 } // namespace

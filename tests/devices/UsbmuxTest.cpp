@@ -12,8 +12,6 @@ namespace {
 
 using UsbmuxTest = UsbmuxEnMemoria;
 
-const DiccionarioPlist conError{{"Error", "PasswordProtected"}};
-
 } // namespace
 
 TEST_F(UsbmuxTest, aReadingTakesTheseRequestsInThisOrder)
