@@ -17,7 +17,7 @@ using namespace std::string_literals;
 TEST(CanalTLS, aCertificateOfAMegabyteIsRefusedAndTheConnectionStaysPlain)
 {
     const ParDePrueba enorme{{.relleno = 1'000'000}};
-    Mesa mesa{{.par = &enorme}};
+    MesaTLS mesa{{.par = &enorme}};
     const auto hecho = mesa.activar(enorme.pem());
     ASSERT_FALSE(hecho);
     EXPECT_EQ(hecho.error(), ErrorIOS::tls("negociación", SSL_R_EXCESSIVE_MESSAGE_SIZE));
@@ -30,11 +30,11 @@ TEST(CanalTLS, aDeviceThatClosesAtAnyStepOfTheHandshakeEndsTheNegotiation)
         // What an RSA key says is always equally long. The tickets of 1.3 come behind the handshake.
         DispositivoTLS::Opciones opciones{
             .par = &parDe(2048), .minima = version, .maxima = version, .admite = &parDe(0)};
-        Mesa entera{opciones};
+        MesaTLS entera{opciones};
         ASSERT_TRUE(entera.activar(parDe(2048).pem()));
         for (std::size_t corte = 0; corte < entera.parte.entregado; corte += corte < 12 ? 1 : 37) {
             opciones.cortarTras = corte;
-            Mesa mesa{opciones};
+            MesaTLS mesa{opciones};
             const auto hecho = mesa.activar(parDe(2048).pem());
             ASSERT_FALSE(hecho) << version << ' ' << corte;
             EXPECT_EQ(hecho.error().caso, ErrorIOS::Caso::tls);
@@ -48,13 +48,13 @@ TEST(CanalTLS, aDeviceThatClosesAtAnyStepOfTheHandshakeEndsTheNegotiation)
 
 TEST(CanalTLS, aConnectionThatIsResetDuringTheHandshakeCountsAsAborted)
 {
-    Mesa mesa{{.par = &parDe(0), .cortarTras = 30, .alCortar = Canal::Fallo::sistema}};
+    MesaTLS mesa{{.par = &parDe(0), .cortarTras = 30, .alCortar = Canal::Fallo::sistema}};
     EXPECT_EQ(mesa.activar(parDe(0).pem()).error(), ErrorIOS::tls("negociación", -9806));
 }
 
 TEST(CanalTLS, aHandshakeByteByByteSucceeds)
 {
-    Mesa mesa{{.par = &parDe(0), .porVez = 1}};
+    MesaTLS mesa{{.par = &parDe(0), .porVez = 1}};
     EXPECT_TRUE(mesa.activar(parDe(0).pem()));
     mesa.parte.respuesta = "hola";
     EXPECT_TRUE(mesa.conexion->escribir("x"));
@@ -86,7 +86,7 @@ TEST(CanalTLS, rubbishInsteadOfAHandshakeEndsIt)
 
 TEST(CanalTLS, aReadThatGetsNothingInTimeEndsWithItsStatus)
 {
-    Mesa mesa{{.par = &parDe(0)}};
+    MesaTLS mesa{{.par = &parDe(0)}};
     ASSERT_TRUE(mesa.activar(parDe(0).pem()));
     EXPECT_EQ(mesa.conexion->leer(1).error(), ErrorIOS::tls("lectura", -9803));
     mesa.parte.respuesta = "ho";
@@ -96,34 +96,34 @@ TEST(CanalTLS, aReadThatGetsNothingInTimeEndsWithItsStatus)
 
 TEST(CanalTLS, aReadUnderAnEndedDeadlineTellsSo)
 {
-    Mesa mesa{{.par = &parDe(0), .silencios = 0}};
+    MesaTLS mesa{{.par = &parDe(0), .silencios = 0}};
     ASSERT_TRUE(mesa.activar(parDe(0).pem()));
     EXPECT_EQ(mesa.conexion->leer(1).error(), ErrorIOS::socket("el dispositivo no respondió a tiempo"));
 }
 
 TEST(CanalTLS, theEndOfTheChannelIsAClosedOneWithOrWithoutAGoodbye)
 {
-    Mesa amable{{.par = &parDe(0), .maxima = TLS1_2_VERSION, .despedirse = true}};
+    MesaTLS amable{{.par = &parDe(0), .maxima = TLS1_2_VERSION, .despedirse = true}};
     ASSERT_TRUE(amable.activar(parDe(0).pem()));
     EXPECT_EQ(amable.conexion->leer(1).error(), ErrorIOS::tls("lectura", -9805));
 
     // What an RSA key says in 1.2 is always equally long.
-    Mesa medida{{.par = &parDe(2048), .maxima = TLS1_2_VERSION}};
+    MesaTLS medida{{.par = &parDe(2048), .maxima = TLS1_2_VERSION}};
     ASSERT_TRUE(medida.activar(parDe(2048).pem()));
-    Mesa brusca{{.par = &parDe(2048), .maxima = TLS1_2_VERSION, .cortarTras = medida.parte.entregado}};
+    MesaTLS brusca{{.par = &parDe(2048), .maxima = TLS1_2_VERSION, .cortarTras = medida.parte.entregado}};
     ASSERT_TRUE(brusca.activar(parDe(2048).pem()));
     EXPECT_EQ(brusca.conexion->leer(1).error(), ErrorIOS::tls("lectura", -9805));
 }
 
 TEST(CanalTLS, aRejectedClientShowsAtTheHandshakeOrIn13AtTheFirstRead)
 {
-    Mesa vieja{{.par = &parDe(0), .maxima = TLS1_2_VERSION, .admite = &parDe(2048)}};
+    MesaTLS vieja{{.par = &parDe(0), .maxima = TLS1_2_VERSION, .admite = &parDe(2048)}};
     const auto hecho = vieja.activar(parDe(0).pem());
     ASSERT_FALSE(hecho);
     EXPECT_EQ(hecho.error().texto, "negociación");
     EXPECT_GT(hecho.error().estado, 1000);
 
-    Mesa nueva{{.par = &parDe(0), .minima = TLS1_3_VERSION, .admite = &parDe(2048)}};
+    MesaTLS nueva{{.par = &parDe(0), .minima = TLS1_3_VERSION, .admite = &parDe(2048)}};
     ASSERT_TRUE(nueva.activar(parDe(0).pem()));
     const auto leido = nueva.conexion->leer(1);
     ASSERT_FALSE(leido);
@@ -133,16 +133,16 @@ TEST(CanalTLS, aRejectedClientShowsAtTheHandshakeOrIn13AtTheFirstRead)
 
 TEST(CanalTLS, aWriteToAClosedChannelEndsWithItsStatus)
 {
-    Mesa medida{{.par = &parDe(2048), .maxima = TLS1_2_VERSION}};
+    MesaTLS medida{{.par = &parDe(2048), .maxima = TLS1_2_VERSION}};
     ASSERT_TRUE(medida.activar(parDe(2048).pem()));
-    Mesa mesa{{.par = &parDe(2048), .maxima = TLS1_2_VERSION, .cortarTras = medida.parte.entregado}};
+    MesaTLS mesa{{.par = &parDe(2048), .maxima = TLS1_2_VERSION, .cortarTras = medida.parte.entregado}};
     ASSERT_TRUE(mesa.activar(parDe(2048).pem()));
     EXPECT_EQ(mesa.conexion->escribir("x").error(), ErrorIOS::tls("escritura", -9806));
 }
 
 TEST(CanalTLS, frameAfterFrameGoesThroughTheCipher)
 {
-    Mesa mesa{{.par = &parDe(0)}};
+    MesaTLS mesa{{.par = &parDe(0)}};
     ASSERT_TRUE(mesa.activar(parDe(0).pem()));
     const std::string largo(300'000, 'z');
     ASSERT_TRUE(mesa.conexion->enviarPlist({{"Request", largo}}));
@@ -154,7 +154,7 @@ TEST(CanalTLS, frameAfterFrameGoesThroughTheCipher)
 
 TEST(CanalTLS, theEndOfAConnectionAndOfOneThatIsReplacedSaysGoodbye)
 {
-    Mesa mesa{{.par = &parDe(0)}}, otra{{.par = &parDe(0)}};
+    MesaTLS mesa{{.par = &parDe(0)}}, otra{{.par = &parDe(0)}};
     ASSERT_TRUE(mesa.activar(parDe(0).pem()));
     ASSERT_TRUE(otra.activar(parDe(0).pem()));
     *mesa.conexion = std::move(*otra.conexion);
@@ -169,7 +169,7 @@ TEST(CanalTLS, theEndOfAConnectionAndOfOneThatIsReplacedSaysGoodbye)
 TEST(CanalTLS, leavesNoErrorBehindInTheQueueOfOpenSsl)
 {
     ERR_clear_error();
-    Mesa mesa{{.par = &parDe(0)}};
+    MesaTLS mesa{{.par = &parDe(0)}};
     EXPECT_FALSE(mesa.activar(parDe(2048).pem()));
     EXPECT_FALSE(IdentidadTemporal::crear("", ""));
     EXPECT_EQ(ERR_peek_error(), 0U);

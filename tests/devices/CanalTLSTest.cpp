@@ -32,7 +32,7 @@ TEST(CanalTLS, talksToDevicesOfEachVersionWithKeysOfEachKind)
 {
     for (const int bits : {1024, 2048, 4096, 0}) {
         for (const int version : versiones) {
-            Mesa mesa{{.par = &parDe(bits), .minima = version, .maxima = version, .admite = &parDe(0)}};
+            MesaTLS mesa{{.par = &parDe(bits), .minima = version, .maxima = version, .admite = &parDe(0)}};
             const auto hecho = mesa.activar(parDe(bits).pem());
             ASSERT_TRUE(hecho) << bits << ' ' << version << ' ' << hecho.error().errorDescription();
             EXPECT_TRUE(mesa.conexion->cifrada());
@@ -50,7 +50,7 @@ TEST(CanalTLS, presentsClientKeysOfEachKind)
 {
     for (const int bits : {1024, 2048, 4096, 0}) {
         for (const int version : versiones) {
-            Mesa mesa{{.par = &parDe(0), .minima = version, .maxima = version, .admite = &parDe(bits)}};
+            MesaTLS mesa{{.par = &parDe(0), .minima = version, .maxima = version, .admite = &parDe(bits)}};
             const auto hecho = mesa.conexion->activarTLS(identidadDe(parDe(bits)), parDe(0).pem());
             ASSERT_TRUE(hecho) << bits << ' ' << version << ' ' << hecho.error().errorDescription();
             ASSERT_TRUE(mesa.conexion->escribir("x"));
@@ -62,7 +62,7 @@ TEST(CanalTLS, presentsClientKeysOfEachKind)
 TEST(CanalTLS, oneIdentityServesTwoChannels)
 {
     const auto identidad = identidadDe(parDe(2048));
-    Mesa uno{{.par = &parDe(0), .admite = &parDe(2048)}}, dos{{.par = &parDe(0), .admite = &parDe(2048)}};
+    MesaTLS uno{{.par = &parDe(0), .admite = &parDe(2048)}}, dos{{.par = &parDe(0), .admite = &parDe(2048)}};
     EXPECT_TRUE(uno.conexion->activarTLS(identidad, parDe(0).pem()));
     EXPECT_TRUE(dos.conexion->activarTLS(identidad, parDe(0).pem()));
     EXPECT_TRUE(uno.conexion->escribir("x"));
@@ -77,7 +77,7 @@ TEST(CanalTLS, aCertificateThatDiffersByOneByteFailsWithStatusMinusOneAndNoDataM
         for (const std::size_t lugar : {std::size_t{0}, der.size() / 2, der.size() - 1}) {
             auto otro = der;
             otro[lugar] = static_cast<char>(otro[lugar] ^ 1);
-            Mesa mesa{{.par = &parDe(2048), .minima = version, .maxima = version, .admite = &parDe(0)}};
+            MesaTLS mesa{{.par = &parDe(2048), .minima = version, .maxima = version, .admite = &parDe(0)}};
             const auto hecho = mesa.activar(enPem(otro));
             ASSERT_FALSE(hecho);
             EXPECT_EQ(hecho.error(), ErrorIOS::tls(certificadoAjeno, -1));
@@ -92,7 +92,7 @@ TEST(CanalTLS, aCertificateThatDiffersByOneByteFailsWithStatusMinusOneAndNoDataM
 TEST(CanalTLS, afterAWrongCertificateNothingButAnAlertIsSent)
 {
     for (const int version : versiones) {
-        Mesa mesa{{.par = &parDe(2048), .minima = version, .maxima = version, .admite = &parDe(0)}};
+        MesaTLS mesa{{.par = &parDe(2048), .minima = version, .maxima = version, .admite = &parDe(0)}};
         ASSERT_FALSE(mesa.activar(parDe(1024).pem()));
         EXPECT_EQ(tiposDeRegistro(mesa.parte.recibido), (std::vector{saludo, alerta})) << version;
     }
@@ -102,7 +102,7 @@ TEST(CanalTLS, aPinThatDoesNotDecodeLetsNobodyIn)
 {
     for (const std::string &pem :
          {""s, "basura"s, "-----BEGIN-----\nA\n"s, enPem(parDe(2048).der(), "\r\n")}) {
-        Mesa mesa{{.par = &parDe(2048)}};
+        MesaTLS mesa{{.par = &parDe(2048)}};
         EXPECT_EQ(mesa.activar(pem).error(), ErrorIOS::tls(certificadoAjeno, -1));
         EXPECT_EQ(mesa.parte.aplicacion, "");
     }
@@ -112,7 +112,7 @@ TEST(CanalTLS, whatElseIsWrongWithThePinnedCertificateDoesNotMatter)
 {
     const ParDePrueba caducado{{.desde = -7200, .hasta = -3600}}, futuro{{.desde = 3600, .hasta = 7200}};
     for (const ParDePrueba *par : {&caducado, &futuro}) {
-        Mesa mesa{{.par = par}};
+        MesaTLS mesa{{.par = par}};
         EXPECT_TRUE(mesa.activar(par->pem()));
         EXPECT_TRUE(mesa.conexion->escribir("x"));
         EXPECT_EQ(mesa.parte.aplicacion, "x");
@@ -133,7 +133,7 @@ TEST(CanalTLS, aHandshakeThatEndsWithoutStoppingForThePeerCheckIsAccepted)
 
 TEST(CanalTLS, aDeviceWithoutACertificateIsNotLetInByItself)
 {
-    Mesa mesa{{.maxima = TLS1_2_VERSION, .cifrados = "aNULL:@SECLEVEL=0"}};
+    MesaTLS mesa{{.maxima = TLS1_2_VERSION, .cifrados = "aNULL:@SECLEVEL=0"}};
     const auto hecho = mesa.activar(parDe(0).pem());
     ASSERT_FALSE(hecho);
     EXPECT_EQ(hecho.error(), ErrorIOS::tls("negociación", SSL_R_SSLV3_ALERT_HANDSHAKE_FAILURE));

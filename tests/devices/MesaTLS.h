@@ -14,9 +14,9 @@ inline IdentidadTemporal identidadDe(const ParDePrueba &par)
 }
 
 /// A connection to a device, and what became of it.
-struct Mesa
+struct MesaTLS
 {
-    explicit Mesa(const DispositivoTLS::Opciones &opciones)
+    explicit MesaTLS(const DispositivoTLS::Opciones &opciones)
     {
         UnaConexion conexiones{std::make_unique<DispositivoTLS>(opciones, parte)};
         conexion.emplace(ConexionIOS::abrirUnix(conexiones, "/usbmuxd", plazoLargo()).value());
