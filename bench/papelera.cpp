@@ -1,4 +1,5 @@
 #include "bench/Bancos.h"
+#include "bench/Cronometro.h"
 #include "platform/linux/PapeleraLinux.h"
 
 #include <algorithm>
@@ -118,12 +119,6 @@ double microsegundosPorArchivo(int cuantos, Mover mover)
     const std::chrono::duration<double, std::micro> duracion = Cronometro::now() - desde;
     casa.exigirMovidos();
     return duracion.count() / cuantos;
-}
-
-double mediana(std::vector<double> valores)
-{
-    std::ranges::sort(valores);
-    return valores[valores.size() / 2];
 }
 
 } // namespace

@@ -9,14 +9,9 @@ namespace ovanta {
 
 namespace {
 
-QString bytes(std::uint64_t cuantos)
-{
-    return Formato::delUsuario().bytes(cuantos, EstiloBytes::memoria);
-}
-
 FilaCategoria categoria(const QString &nombre, std::uint64_t cuantos, Tinte tinte, const QString &linea)
 {
-    return {nombre, bytes(cuantos), linea, tinte, static_cast<double>(cuantos)};
+    return {nombre, textoDeMemoria(cuantos), linea, tinte, static_cast<double>(cuantos)};
 }
 
 QString botonDe(const Recomendacion::Accion &accion)
@@ -48,6 +43,11 @@ Tinte tinteDeMemoria(double fraccion)
 }
 
 } // namespace
+
+QString textoDeMemoria(std::uint64_t bytes)
+{
+    return Formato::delUsuario().bytes(bytes, EstiloBytes::memoria);
+}
 
 std::vector<FilaCategoria> filasDeCategorias(const MemoryMonitor &mem)
 {
@@ -95,7 +95,7 @@ FilaProceso filaDeProceso(const Proceso &proceso, std::uint64_t total, bool sele
         fila.cuantos = Formato::delUsuario().entero(proceso.procesos) + QStringLiteral(" procesos");
     fila.cpu = textoCpu(proceso.cpu);
     fila.tinteCpu = tinteDeCpu(proceso.cpu);
-    fila.memoria = bytes(proceso.rss);
+    fila.memoria = textoDeMemoria(proceso.rss);
     const double fraccion = fraccionMemoria(proceso.rss, total);
     fila.fraccion = std::min(fraccion, 1.0);
     fila.tinteMemoria = tinteDeMemoria(fraccion);

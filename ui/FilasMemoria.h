@@ -4,9 +4,13 @@
 #include "ui/componentes/Paleta.h"
 
 #include <QString>
+#include <cstdint>
 #include <vector>
 
 namespace ovanta {
+
+/// A size as the memory screen shows it.
+QString textoDeMemoria(std::uint64_t bytes);
 
 /// One of the five things that the memory is taken by.
 struct FilaCategoria

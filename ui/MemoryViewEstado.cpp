@@ -15,11 +15,6 @@ namespace {
 constexpr double ritmoVisible = 1.0;
 constexpr double ritmoAlto = 50.0;
 
-QString bytes(std::uint64_t cuantos)
-{
-    return Formato::delUsuario().bytes(cuantos, EstiloBytes::memoria);
-}
-
 } // namespace
 
 MemoryViewEstado::MemoryViewEstado(QObject *parent)
@@ -58,7 +53,7 @@ void MemoryViewEstado::publicarFilas()
 
 QString MemoryViewEstado::enUso() const
 {
-    return bytes(m_mem.usada()) + QStringLiteral(" en uso de ") + bytes(m_mem.total());
+    return textoDeMemoria(m_mem.usada()) + QStringLiteral(" en uso de ") + textoDeMemoria(m_mem.total());
 }
 
 QString MemoryViewEstado::ultimaLectura() const
@@ -94,7 +89,8 @@ QString MemoryViewEstado::porcentaje() const
 
 QString MemoryViewEstado::swap() const
 {
-    return bytes(m_mem.swapUsado()) + QStringLiteral(" usados de ") + bytes(m_mem.swapTotal());
+    return textoDeMemoria(m_mem.swapUsado()) + QStringLiteral(" usados de ") +
+           textoDeMemoria(m_mem.swapTotal());
 }
 
 QString MemoryViewEstado::actividadSwap() const
@@ -118,7 +114,7 @@ Tinte MemoryViewEstado::tinteActividad() const
 
 QString MemoryViewEstado::ayudaMemoria() const
 {
-    return QStringLiteral("Parte de los ") + bytes(m_mem.total()) +
+    return QStringLiteral("Parte de los ") + textoDeMemoria(m_mem.total()) +
            QStringLiteral(" de RAM que ocupa esta app");
 }
 

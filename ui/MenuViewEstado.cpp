@@ -14,11 +14,6 @@ namespace ovanta {
 
 namespace {
 
-QString bytes(std::uint64_t cuantos)
-{
-    return Formato::delUsuario().bytes(cuantos);
-}
-
 QString numero(std::uint64_t cuantos)
 {
     return Formato::delUsuario().entero(cuantos);
@@ -46,12 +41,12 @@ MenuViewEstado::MenuViewEstado(QObject *parent)
 
 QString MenuViewEstado::libres() const
 {
-    return bytes(m_app.disco().libre()) + QStringLiteral(" libres");
+    return Formato::delUsuario().bytes(m_app.disco().libre()) + QStringLiteral(" libres");
 }
 
 QString MenuViewEstado::usado() const
 {
-    return QStringLiteral("Usado ") + bytes(m_app.disco().usado());
+    return QStringLiteral("Usado ") + Formato::delUsuario().bytes(m_app.disco().usado());
 }
 
 QString MenuViewEstado::umbrales() const
@@ -166,7 +161,7 @@ QString MenuViewEstado::simuladores() const
     if (consultando()) return QStringLiteral("Consultando…");
     if (!hayLista()) return QStringLiteral("Sin datos todavía.");
     return numero(m_app.sims().simuladores().size()) + QStringLiteral(" en total · ") +
-           bytes(m_app.sims().bytesTotales());
+           Formato::delUsuario().bytes(m_app.sims().bytesTotales());
 }
 
 bool MenuViewEstado::hayNuevos() const
@@ -181,7 +176,7 @@ QString MenuViewEstado::nuevos() const
     if (nuevos.empty())
         return QStringLiteral("Ninguno creado en los últimos %1 días").arg(m_app.sims().diasNuevo());
     return numero(nuevos.size()) + QStringLiteral(" nuevos ocupan ") +
-           bytes(SimulatorStore::sumaDeBytes(nuevos));
+           Formato::delUsuario().bytes(SimulatorStore::sumaDeBytes(nuevos));
 }
 
 void MenuViewEstado::alMostrar()

@@ -14,11 +14,6 @@ namespace {
 
 const QString sinAnalizar = QStringLiteral("Sin analizar todavía");
 
-QString bytes(std::uint64_t cuantos)
-{
-    return Formato::delUsuario().bytes(cuantos);
-}
-
 QString numero(std::uint64_t cuantos)
 {
     return Formato::delUsuario().entero(cuantos);
@@ -43,7 +38,7 @@ TarjetaResumen deCaches(const EntradasResumen &e)
 {
     auto t = tarjeta(Seccion::espacio, QStringLiteral("Cachés regenerables"), QStringLiteral("shippingbox"),
                      Tinte::Azul, "safe");
-    t.cifra = bytes(e.bytesReglas);
+    t.cifra = Formato::delUsuario().bytes(e.bytesReglas);
     t.detalle = QStringLiteral("Se recrean solas al usar las herramientas");
     return t;
 }
@@ -52,7 +47,7 @@ TarjetaResumen deDuplicados(const EntradasResumen &e)
 {
     auto t = tarjeta(Seccion::duplicados, QStringLiteral("Duplicados · tamaño lógico"),
                      QStringLiteral("doc.on.doc"), Tinte::Rosa, "review");
-    t.cifra = bytes(e.bytesDuplicados);
+    t.cifra = Formato::delUsuario().bytes(e.bytesDuplicados);
     t.detalle =
         e.gruposDuplicados == 0
             ? sinAnalizar
@@ -64,7 +59,7 @@ TarjetaResumen deDependencias(const EntradasResumen &e)
 {
     auto t = tarjeta(Seccion::pesados, QStringLiteral("Dependencias"), QStringLiteral("shippingbox.fill"),
                      Tinte::Turquesa, "review");
-    t.cifra = bytes(e.bytesCarpetas);
+    t.cifra = Formato::delUsuario().bytes(e.bytesCarpetas);
     t.detalle =
         e.carpetas == 0 ? sinAnalizar : numero(e.carpetas) + QStringLiteral(" carpetas reinstalables");
     return t;
@@ -75,7 +70,7 @@ TarjetaResumen deSimuladores(const EntradasResumen &e)
     auto t =
         tarjeta(Seccion::simuladores, QStringLiteral("Simuladores nuevos"), QStringLiteral("iphone.gen3"),
                 e.simuladoresNuevos > 0 ? Tinte::Naranja : Tinte::Secundario, "review");
-    t.cifra = bytes(e.bytesNuevos);
+    t.cifra = Formato::delUsuario().bytes(e.bytesNuevos);
     t.detalle = QStringLiteral("%1 de %2, creados en ≤%3 días")
                     .arg(numero(e.simuladoresNuevos), numero(e.simuladores))
                     .arg(e.diasNuevo);
@@ -97,7 +92,7 @@ TarjetaResumen deDescargas(const EntradasResumen &e)
 {
     auto t = tarjeta(Seccion::pesados, QStringLiteral("Descargas viejas"),
                      QStringLiteral("arrow.down.circle"), Tinte::Indigo, "manual");
-    t.cifra = bytes(e.bytesDescargas);
+    t.cifra = Formato::delUsuario().bytes(e.bytesDescargas);
     t.detalle = QStringLiteral("%1 sin tocar en %2 días").arg(numero(e.descargas)).arg(e.diasDescargas);
     return t;
 }
