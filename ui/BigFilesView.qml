@@ -6,6 +6,8 @@ import Ovanta
 /// What weighs most: single files, and folders that their tools make again.
 Item {
     id: raiz
+    // Inside a row `estado` is the row's own.
+    readonly property BigFilesViewEstado reglas: estado
     BigFilesViewEstado { id: estado }
 
     ColumnLayout {
@@ -40,7 +42,7 @@ Item {
             Layout.leftMargin: Tema.margen
             Layout.rightMargin: Tema.margen / 2
             delegate: FilaHallada {
-                estado: estado
+                estado: raiz.reglas
                 width: ListView.view.width - Tema.margen / 2
             }
         }

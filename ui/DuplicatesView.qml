@@ -6,6 +6,8 @@ import Ovanta
 /// Files with the same content: what may go is marked, the original of each group always stays.
 Item {
     id: raiz
+    // Inside a row `estado` is the row's own.
+    readonly property DuplicatesViewEstado reglas: estado
     DuplicatesViewEstado { id: estado }
 
     ColumnLayout {
@@ -36,7 +38,7 @@ Item {
             Layout.leftMargin: Tema.margen
             Layout.rightMargin: Tema.margen / 2
             delegate: FilaCopia {
-                estado: estado
+                estado: raiz.reglas
                 width: ListView.view.width - Tema.margen / 2
             }
         }
