@@ -27,6 +27,12 @@ FotoRef FotografoProcesos::ahora()
     return tomar(true);
 }
 
+FotoRef FotografoProcesos::nueva()
+{
+    const std::scoped_lock cerrado(m_cerrojo);
+    return tomar(false);
+}
+
 FotoRef FotografoProcesos::reciente()
 {
     constexpr std::chrono::seconds momento{2};

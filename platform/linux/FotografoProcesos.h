@@ -39,9 +39,10 @@ public:
 
     /// How things stand now.
     FotoRef ahora();
-    /// The last look where it is a moment old, else a new one: for those who only show. The display is
-    /// asked again only while there are young processes, and every other minute: windows come with
-    /// processes, and each question wakes the display server too.
+    /// A new look, for those who measure. The display is asked again only while there are young processes,
+    /// and every other minute: windows come with processes, and each question wakes the display server too.
+    FotoRef nueva();
+    /// The last look where it is a moment old, else `nueva`: for those who only show.
     FotoRef reciente();
 
     const EntornoProcesos &entorno() const { return m_entorno; }

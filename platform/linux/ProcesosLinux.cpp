@@ -24,7 +24,7 @@ unsigned ProcesosLinux::nucleos() const
 
 std::vector<MuestraProceso> ProcesosLinux::muestrear()
 {
-    const FotoRef foto = m_fotografo->ahora();
+    const FotoRef foto = m_fotografo->nueva();
     std::vector<MuestraProceso> muestras;
     muestras.reserve(foto->procesos.size());
     for (std::size_t i = 0; i < foto->procesos.size(); ++i) {
